@@ -1,0 +1,15 @@
+#pragma once
+
+#include "norvalex_lighting.h"
+
+// The records the panel falls back on when the lighting library is missing or its data is stale.
+namespace DefaultRecords {
+
+// Top-level numbers -1, texts "N/A", updateTime 0; every module with the default lighting state.
+// Of module k's brightness array only entry k is 1.0 (the diagonal), as the library's own default
+// builder writes it.
+HWData hwData();
+NotiEventData notiEvent();
+SettingData setting();
+
+}  // namespace DefaultRecords

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+// Start-up helpers shared by the entry point and the controller.
+namespace Startup {
+
+// The program's data directory: the directory of the user-scope INI settings file of
+// organisation "Qx", application "application", plus "/NORVALEXRGB".
+QString dataDirectory();
+// Reads "DebugMode/isDebugMode" from "ModuleDevice.ini" in the data directory.
+bool isDebugMode();
+// Launches the control service from this program's own directory unless it already runs.
+void startControl();
+// True when the first argument is exactly "open".
+bool isOpenArgument(int argc, char* argv[]);
+
+}  // namespace Startup

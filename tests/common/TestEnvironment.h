@@ -1,0 +1,44 @@
+#pragma once
+
+// Points the per-user directories of a test program at a private temporary directory before
+// QApplication exists, so no test touches the real runtime, config or data directories.
+// Include it in exactly one translation unit of a test program.
+
+#include <QByteArray>
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace TestEnvironment {
+
+inline QTemporaryDir& root()
+{
+    static QTemporaryDir dir;
+    return dir;
+}
+
+inline QString runtimeDir()
+{
+    return root().path() + QStringLiteral("/runtime");
+}
+
+inline QString configDir()
+{
+    return root().path() + QStringLiteral("/config");
+}
+
+inline bool prepare()
+{
+    QDir().mkpath(runtimeDir());
+    QDir().mkpath(configDir());
+    QFile::setPermissions(runtimeDir(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                            QFileDevice::ExeOwner);
+    qputenv("XDG_RUNTIME_DIR", runtimeDir().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", configDir().toLocal8Bit());
+    qputenv("HOME", root().path().toLocal8Bit());
+    return true;
+}
+
+// Runs before main(), hence before QApplication.
+static const bool prepared = prepare();
+
+}  // namespace TestEnvironment

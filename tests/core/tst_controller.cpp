@@ -1,0 +1,366 @@
+// The controller against the test double library: the poll with its freshness rule, the first
+// delivery of counts and types, the request/answer roads and the hand-off of library callbacks.
+#include "AppGlobals.h"
+#include "LightingDouble.h"
+#include "Main_View.h"
+#include "Platform.h"
+#include "QXRGBMemory.h"
+#include "Setting_View.h"
+#include "TestEnvironment.h"
+#include "Widget_LocationPolicy.h"
+
+#include <QtTest>
+
+#include <cstring>
+#include <memory>
+
+namespace {
+
+QStringList boxes;
+
+void recordBox(const std::wstring& text, const std::wstring&, Platform::MessageIcon)
+{
+    boxes << QString::fromStdWString(text);
+}
+
+constexpr quint32 kNow = 1'800'000'000u;
+
+HWData hwWith(int memoryCount, int slotCount, quint32 updateTime)
+{
+    HWData hw;
+    std::memset(&hw, 0, sizeof hw);
+    hw.memoryCount = memoryCount;
+    hw.slotCount = slotCount;
+    hw.updateTime = updateTime;
+    for (int i = 0; i < NX_MODULE_COUNT; ++i) {
+        hw.slotIndex[i] = i < memoryCount ? i : -1;
+        std::strcpy(hw.memoryData[i].modelCode, i < memoryCount ? "KX44" : "N/A");
+        hw.memoryData[i].ledNum = i < memoryCount ? 8 : -1;
+    }
+    return hw;
+}
+
+// Runs `action` inside an event loop and tells whether the application was asked to quit.
+bool quitsDuring(const std::function<void()>& action)
+{
+    QEventLoop loop;
+    QTimer::singleShot(0, action);
+    QTimer::singleShot(1500, &loop, [&loop]() { loop.exit(99); });
+    return loop.exec() != 99;
+}
+
+}  // namespace
+
+class tst_Controller : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void freshness_data();
+    void freshness();
+    void relaunchesOnceUntilFreshDataReturns();
+    void deliversCountsTypesAndLanguageUntilValid();
+    void sendsColoursInLibraryArgumentOrder();
+    void passesNotificationRecordBackUnchanged();
+    void readsLightingAndLedNumbers();
+    void handsCallbacksToGuiThread();
+    void locationDialogAnswersOncePerChoice();
+    void changesLanguageOnlyForKnownIndexes();
+    void quitsOnNativeMessages();
+
+private:
+    std::unique_ptr<QXRGBMemory> m_controller;
+    int m_launches = 0;
+};
+
+void tst_Controller::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    Platform::setMessageBoxHook(recordBox);
+}
+
+void tst_Controller::init()
+{
+    Double_reset();
+    boxes.clear();
+    m_controller = std::make_unique<QXRGBMemory>(QStringLiteral(NX_DOUBLE_LIBRARY));
+    m_controller->pollTimer()->stop();
+    m_controller->setClock([]() { return kNow; });
+    m_launches = 0;
+    m_controller->setControlLauncher([this]() { ++m_launches; });
+}
+
+void tst_Controller::cleanup()
+{
+    m_controller.reset();
+    programStarted = false;
+}
+
+void tst_Controller::freshness_data()
+{
+    QTest::addColumn<int>("memoryCount");
+    QTest::addColumn<quint32>("updateTime");
+    QTest::addColumn<bool>("fresh");
+    QTest::newRow("just now") << 4 << kNow << true;
+    QTest::newRow("9 s old") << 4 << kNow - 9 << true;
+    QTest::newRow("10 s old") << 4 << kNow - 10 << false;
+    QTest::newRow("an hour old") << 4 << kNow - 3600 << false;
+    QTest::newRow("1 s in the future") << 4 << kNow + 1 << false;
+    QTest::newRow("no module counted") << 0 << kNow << false;
+    QTest::newRow("count unknown") << -1 << kNow << false;
+}
+
+void tst_Controller::freshness()
+{
+    QFETCH(int, memoryCount);
+    QFETCH(quint32, updateTime);
+    QFETCH(bool, fresh);
+
+    const HWData hw = hwWith(memoryCount, 4, updateTime);
+    Double_setHWData(&hw);
+    // The record is not a registered meta-type, so it is read through a direct connection.
+    QList<HWData> shown;
+    connect(m_controller.get(), &QXRGBMemory::setHWData, this,
+            [&shown](HWData d) { shown << d; }, Qt::DirectConnection);
+    m_controller->requestUpdateData();
+    QCOMPARE(shown.size(), 1);
+    // Stale data is replaced by the default record.
+    QCOMPARE(shown.at(0).memoryCount, fresh ? memoryCount : -1);
+    QCOMPARE(shown.at(0).updateTime, fresh ? updateTime : 0u);
+    QCOMPARE(m_controller->isRestartTried(), !fresh);
+    QCOMPARE(m_launches, fresh ? 0 : 1);
+}
+
+void tst_Controller::relaunchesOnceUntilFreshDataReturns()
+{
+    HWData stale = hwWith(4, 4, kNow - 30);
+    Double_setHWData(&stale);
+    for (int tick = 0; tick < 5; ++tick)
+        m_controller->requestUpdateData();
+    QCOMPARE(m_launches, 1);
+
+    const HWData fresh = hwWith(4, 4, kNow - 1);
+    Double_setHWData(&fresh);
+    m_controller->requestUpdateData();
+    QVERIFY(!m_controller->isRestartTried());
+    QCOMPARE(m_launches, 1);
+
+    Double_setHWData(&stale);
+    m_controller->requestUpdateData();
+    m_controller->requestUpdateData();
+    QCOMPARE(m_launches, 2);
+}
+
+void tst_Controller::deliversCountsTypesAndLanguageUntilValid()
+{
+    QSignalSpy slotNum(m_controller.get(), &QXRGBMemory::setSlotNum);
+    QSignalSpy types(m_controller.get(), &QXRGBMemory::setQXModuleType);
+    QSignalSpy language(m_controller.get(), &QXRGBMemory::updateLanguage);
+
+    // Counts unknown: no slot numbers, but the language is applied on every tick.
+    HWData unknown = hwWith(-1, -1, kNow);
+    Double_setHWData(&unknown);
+    for (int tick = 0; tick < 3; ++tick)
+        m_controller->requestUpdateData();
+    QCOMPARE(slotNum.count(), 0);
+    QCOMPARE(language.count(), 3);
+    QVERIFY(!m_controller->isInitDone());
+
+    HWData valid = hwWith(2, 4, kNow);
+    std::strcpy(valid.memoryData[1].modelCode, "KZ71-B");
+    Double_setHWData(&valid);
+    m_controller->requestUpdateData();
+    m_controller->requestUpdateData();
+    QCOMPARE(slotNum.count(), 1);
+    QCOMPARE(slotNum.at(0).at(0).toInt(), 4);
+    QCOMPARE(slotNum.at(0).at(1).toInt(), 2);
+    QCOMPARE(types.count(), 1);
+    const QStringList list = types.at(0).at(0).toStringList();
+    QCOMPARE(list.size(), 8);
+    QCOMPARE(list.at(0), QStringLiteral("KX44"));
+    QCOMPARE(list.at(1), QStringLiteral("KZ71-B"));
+    QCOMPARE(list.at(7), QStringLiteral("N/A"));
+    QCOMPARE(language.count(), 4);
+    QVERIFY(m_controller->isInitDone());
+
+    // A count that drops to 0 makes the next tick deliver everything again.
+    HWData dropped = hwWith(0, 4, kNow);
+    Double_setHWData(&dropped);
+    m_controller->requestUpdateData();
+    QVERIFY(!m_controller->isInitDone());
+    m_controller->requestUpdateData();
+    QCOMPARE(slotNum.count(), 2);
+    QCOMPARE(slotNum.at(1).at(1).toInt(), 0);
+    QCOMPARE(language.count(), 5);
+}
+
+void tst_Controller::sendsColoursInLibraryArgumentOrder()
+{
+    COLORREF rgb[8] = {0x10, 0x20, 0x30, 0x40, 0x50, 0x60, 0x70, 0x80};
+    float bright[8] = {1, 1, 1, 1, 0.5f, 0.5f, 0.5f, 0.5f};
+    // From the frame's relay signal, as a page's Apply arrives.
+    emit m_controller->mainView()->changeColor(6, rgb, 0x00FF00, bright, 0.25f);
+    QCOMPARE(QByteArray(Double_lastCall("SetValueRGB")),
+             QByteArray("6,rgb=10:20:30:40:50:60:70:80,bright=1:1:1:1:0.5:0.5:0.5:0.5,ff00,0.25,8"));
+
+    emit m_controller->mainView()->changeLightMode(1, 6, 1, 2, true);
+    QCOMPARE(QByteArray(Double_lastCall("SetValueLighting")), QByteArray("1,6,1,2,1"));
+
+    int order[8] = {3, 2, 1, 0, 4, 5, 6, 7};
+    emit m_controller->mainView()->changeMemorySlotNumber(8, order);
+    QCOMPARE(QByteArray(Double_lastCall("SetSlotNumber")), QByteArray("8,3,2,1,0,4,5,6,7"));
+
+    emit m_controller->mainView()->select_Profile(4);
+    QCOMPARE(QByteArray(Double_lastCall("SetProfile")), QByteArray("4"));
+}
+
+void tst_Controller::passesNotificationRecordBackUnchanged()
+{
+    // Every byte set, reserved cells and the padding of the boolean cells included.
+    NotiEventData given;
+    std::memset(&given, 0xAB, sizeof given);
+    given.reserved0 = 0x11223344;
+    given.reserved20 = -77;
+    given.changedItem = 2;
+    given.loadingSwitch = true;
+    Double_setNotiEvent(&given);
+
+    // A page that sends back what it was given.
+    Main_View* frame = m_controller->mainView();
+    connect(frame, &Main_View::setNotiData, frame,
+            [frame](NotiEventData d) { emit frame->sendNotiData(d); }, Qt::DirectConnection);
+    emit frame->requestNotiData();
+    const NotiEventData back = Double_lastNotiEvent();
+    QCOMPARE(Double_callCount("SetNotiEvent"), 1);
+    QCOMPARE(std::memcmp(&back, &given, sizeof back), 0);
+    QCOMPARE(back.reserved0, 0x11223344);
+    QCOMPARE(back.reserved20, -77);
+}
+
+void tst_Controller::readsLightingAndLedNumbers()
+{
+    Double_setLighting(3, 24, 1, 0, 1);
+    QSignalSpy lighting(m_controller.get(), &QXRGBMemory::setLighting);
+    m_controller->requestSetLighting();
+    QCOMPARE(lighting.count(), 8);
+    const QList<QVariant> slot3 = lighting.at(3);
+    QCOMPARE(slot3.at(0).toInt(), 3);
+    QCOMPARE(slot3.at(1).toInt(), 24);
+    QCOMPARE(slot3.at(2).toInt(), 1);
+    QCOMPARE(slot3.at(3).toInt(), 0);
+    QCOMPARE(slot3.at(4).toBool(), true);
+    // Each slot is read in the order turn-off, speed, colour mode, light mode.
+    const QStringList calls = QString::fromUtf8(Double_calls()).split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(calls.mid(0, 4), (QStringList{"GetValueTurnOff(0)", "GetValueLightSpeed(0)",
+                                           "GetValueColorMode(0)", "GetValueLightMode(0)"}));
+
+    HWData hw = hwWith(4, 4, kNow);
+    hw.memoryData[2].ledNum = 5;
+    Double_reset();
+    Double_setHWData(&hw);
+    int received[8] = {};
+    connect(m_controller.get(), &QXRGBMemory::setMemoryLEDNumber, this, [&received](int n, int* leds) {
+        std::memcpy(received, leds, sizeof(int) * size_t(n));
+    });
+    m_controller->requestSetLEDNum();
+    QCOMPARE(Double_callCount("GetValueHWData"), 16);
+    QCOMPARE(received[0], 8);
+    QCOMPARE(received[2], 5);
+    QCOMPARE(received[7], -1);
+}
+
+void tst_Controller::handsCallbacksToGuiThread()
+{
+    QVERIFY(Double_hasCallbacks());
+    // With the Settings page visible a refresh re-reads the settings.
+    m_controller->mainView()->slot_show_Setting();
+    const int before = Double_callCount("GetSettingValue");
+
+    Double_fireLightModeEvent(7, 0);
+    QCOMPARE(Double_callCount("GetSettingValue"), before + 1);
+
+    Double_fireLightModeEvent(7, 1);
+    QCOMPARE(Double_callCount("GetSettingValue"), before + 1);
+    QTRY_COMPARE(Double_callCount("GetSettingValue"), before + 2);
+
+    // Preview frames from the library's thread are coalesced while one waits.
+    QList<QList<COLORREF*>> previews;
+    connect(m_controller.get(), &QXRGBMemory::updatePreviewList, this,
+            [&previews](const QList<COLORREF*>& list) { previews << list; });
+    for (int i = 0; i < 5; ++i)
+        Double_firePreviewEvent(1);
+    QCOMPARE(previews.size(), 0);
+    QTRY_COMPARE(previews.size(), 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(previews.size(), 1);
+    QCOMPARE(previews.at(0).size(), 8);
+    QCOMPARE(previews.at(0).at(5), Double_softwareRGB(5));
+
+    Double_firePreviewEvent(0);
+    QCOMPARE(previews.size(), 2);
+}
+
+void tst_Controller::locationDialogAnswersOncePerChoice()
+{
+    Double_setSetting(SettingData{0, true, true, false, 0x5A});
+    Main_View* frame = m_controller->mainView();
+    emit frame->changeLightMode(0, 31, 2, 2, false);
+    emit frame->changeLightMode(1, 31, 2, 2, false);
+    QVERIFY(m_controller->locationPolicy()->isVisible());
+    // Light mode 31 is applied at once, whatever the answer.
+    QCOMPARE(Double_callCount("SetValueLighting"), 2);
+
+    emit m_controller->locationPolicy()->sendPushOK(true);
+    QTRY_COMPARE(Double_callCount("SetSettingValue"), 2);
+    const SettingData stored = Double_lastSetting();
+    QCOMPARE(stored.currentLocation, true);
+    QCOMPARE(stored.autoRun, true);
+    QCOMPARE(int(stored.reserved7), 0x5A);
+
+    // With consent given, mode 31 opens nothing more.
+    m_controller->locationPolicy()->hide();
+    emit frame->changeLightMode(2, 31, 2, 2, false);
+    QVERIFY(!m_controller->locationPolicy()->isVisible());
+}
+
+void tst_Controller::changesLanguageOnlyForKnownIndexes()
+{
+    QSignalSpy language(m_controller.get(), &QXRGBMemory::updateLanguage);
+    m_controller->changeSettingData(SettingData{3, true, false, false, 0});
+    QCOMPARE(currentLanguage, 3);
+    QCOMPARE(QByteArray(Double_lastCall("SetSettingValue")), QByteArray("3,1,0,0,0"));
+    QCOMPARE(language.count(), 1);
+    QTranslator* german = m_controller->translator();
+    QVERIFY(german && !german->isEmpty());
+
+    for (int index : {10, -1, 42}) {
+        m_controller->changeSettingData(SettingData{index, true, false, false, 0});
+        QCOMPARE(currentLanguage, 3);
+        QCOMPARE(m_controller->translator(), german);
+    }
+    // The caller still announces a language change.
+    QCOMPARE(language.count(), 4);
+
+    // The same language again is loaded and installed afresh.
+    m_controller->changeLanguage(3);
+    QVERIFY(m_controller->translator() != german);
+    QCOMPARE(currentLanguage, 3);
+    m_controller->changeLanguage(0);
+}
+
+void tst_Controller::quitsOnNativeMessages()
+{
+    QXRGBMemory* c = m_controller.get();
+    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8303, 1, 0); }));
+    c->setProgramStart(true);
+    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8303, 0, 0); }));
+    QVERIFY(quitsDuring([c]() { c->handleNativeMessage(0x8303, 1, 0); }));
+    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8101, 1, 1); }));
+    QVERIFY(quitsDuring([c]() { c->handleNativeMessage(0x8301, 1, 1); }));
+}
+
+QTEST_MAIN(tst_Controller)
+#include "tst_controller.moc"

@@ -1,0 +1,106 @@
+// Loading the lighting library at run time: a full library, one that exports only some
+// functions, and none at all.
+#include "LightingDouble.h"
+#include "LightingLibrary.h"
+#include "TestEnvironment.h"
+
+#include <QtTest>
+
+class tst_LightingLibrary : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { Double_reset(); }
+    void missingLibraryAnswersDefaults();
+    void partialLibraryMixesRealAndDefaultAnswers();
+    void fullLibraryPassesArgumentsThrough();
+    void turnOffIsReadAsOneByte();
+};
+
+void tst_LightingLibrary::missingLibraryAnswersDefaults()
+{
+    LightingLibrary library;
+    QVERIFY(!library.load(QStringLiteral("no-such-directory/NORVALEX_Lighting")));
+    QVERIFY(!library.isLoaded());
+    QCOMPARE(library.missingFunctions().size(), NORVALEX_LIGHTING_FUNCTION_COUNT);
+
+    // Nothing crashes and every answer is the default one.
+    library.SharedDLL_init();
+    library.SetValueLighting(0, 6, 1, 2, true);
+    library.SetProfile(3);
+    const HWData hw = library.GetValueHWData();
+    QCOMPARE(hw.memoryCount, -1);
+    QCOMPARE(hw.updateTime, 0u);
+    QCOMPARE(library.GetValueLightMode(2), 5);
+    QCOMPARE(library.GetValueColorMode(2), 0);
+    QCOMPARE(library.GetValueLightSpeed(2), 2);
+    QCOMPARE(library.GetValueTurnOff(2), false);
+    QCOMPARE(library.GetProfile(), 0);
+    QCOMPARE(library.GetSettingValue().languageIndex, 0);
+    // Pointer getters point at default storage that can be read in full.
+    for (int slot = 0; slot < NX_MODULE_COUNT; ++slot) {
+        QVERIFY(library.GetValueRGB(slot));
+        QCOMPARE(library.GetValueRGB(slot)[11], COLORREF(0x00FFD8));
+        QCOMPARE(library.GetValueBright(slot)[slot], 1.0f);
+        QVERIFY(library.GetValueSoftwareRGB(slot));
+    }
+    // Out-of-range slots fall back to slot 0 instead of reading past the table.
+    QVERIFY(library.GetValueRGB(8));
+    QVERIFY(library.GetValueBright(-1));
+}
+
+void tst_LightingLibrary::partialLibraryMixesRealAndDefaultAnswers()
+{
+    LightingLibrary library;
+    QVERIFY(library.load(QStringLiteral(NX_PARTIAL_LIBRARY)));
+    const QStringList missing = library.missingFunctions();
+    QCOMPARE(missing.size(), NORVALEX_LIGHTING_FUNCTION_COUNT - 3);
+    QVERIFY(!missing.contains(QStringLiteral("GetValueHWData")));
+    QVERIFY(missing.contains(QStringLiteral("SetValueRGB")));
+
+    QCOMPARE(library.GetValueLightMode(1), 21);
+    QCOMPARE(library.GetValueHWData().memoryCount, 3);
+    // The functions it lacks answer with defaults.
+    QCOMPARE(library.GetValueColorMode(1), 0);
+    QVERIFY(library.GetValueRGB(1));
+    library.SetValueRGB(1, nullptr, nullptr, 0, 1.0f, 8);
+}
+
+void tst_LightingLibrary::fullLibraryPassesArgumentsThrough()
+{
+    LightingLibrary library;
+    QVERIFY(library.load(QStringLiteral(NX_DOUBLE_LIBRARY)));
+    QVERIFY(library.missingFunctions().isEmpty());
+
+    COLORREF rgb[8] = {0x1, 0x2, 0x3, 0x4, 0x5, 0x6, 0x7, 0x8};
+    float bright[8] = {0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.25f};
+    library.SetValueRGB(3, rgb, bright, 0xABCDEF, 0.75f, 8);
+    QCOMPARE(QByteArray(Double_lastCall("SetValueRGB")),
+             QByteArray("3,rgb=1:2:3:4:5:6:7:8,bright=0.5:0.5:0.5:0.5:0.5:0.5:0.5:0.25,abcdef,0.75,8"));
+
+    library.SetValueLighting(2, 31, 2, 3, true);
+    QCOMPARE(QByteArray(Double_lastCall("SetValueLighting")), QByteArray("2,31,2,3,1"));
+
+    Double_setLighting(4, 17, 1, 0, 0);
+    QCOMPARE(library.GetValueLightMode(4), 17);
+    QCOMPARE(library.GetValueColorMode(4), 1);
+    QCOMPARE(library.GetValueLightSpeed(4), 0);
+}
+
+void tst_LightingLibrary::turnOffIsReadAsOneByte()
+{
+    LightingLibrary library;
+    QVERIFY(library.load(QStringLiteral(NX_DOUBLE_LIBRARY)));
+    Double_setLighting(0, 5, 0, 2, 0);
+    Double_setLighting(1, 5, 0, 2, 1);
+    Double_setLighting(2, 5, 0, 2, 2);
+    Double_setLighting(3, 5, 0, 2, 0x80);
+    QCOMPARE(library.GetValueTurnOff(0), false);
+    QCOMPARE(library.GetValueTurnOff(1), true);
+    QCOMPARE(library.GetValueTurnOff(2), true);
+    QCOMPARE(library.GetValueTurnOff(3), true);
+}
+
+QTEST_GUILESS_MAIN(tst_LightingLibrary)
+#include "tst_lighting_library.moc"
