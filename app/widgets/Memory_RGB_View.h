@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QLabel;
+class QPainter;
 class QPushButton;
 
 // One memory slot on the lighting page: a slot button on top and one round button per LED below

@@ -7,6 +7,8 @@
 #include <QMutex>
 #include <QWidget>
 
+class QPainter;
+
 // Live picture of the installed modules: one vertical bar per slot, filled with a gradient of
 // the LED colours that the lighting library is currently showing.
 class Widget_Preview : public QWidget
