@@ -1,0 +1,89 @@
+// Word mark: a slanted accent mark followed by "NORVALEX" in white, fitted to 146 x 23.
+#include "ImageRegistry.h"
+
+#include <QFont>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+constexpr int kWidth = 146;
+constexpr int kHeight = 23;
+constexpr qreal kMarkWidth = 16.0;
+constexpr qreal kMarkSlant = 5.0;
+constexpr qreal kGap = 6.0;
+constexpr qreal kTextHeight = 15.0;
+constexpr qreal kLetterSpacing = 1.5;
+
+const QColor kAccent(32, 158, 199);
+const QColor kAccentLight(96, 204, 236);
+const QColor kText(255, 255, 255);
+
+// Two slanted bars, the second shorter: reads as a stylised "N" and as a rising level.
+void drawMark(QPainter& painter)
+{
+    const qreal top = (kHeight - kTextHeight) / 2.0;
+    const qreal bottom = top + kTextHeight;
+    QLinearGradient fill(0, bottom, kMarkWidth, top);
+    fill.setColorAt(0.0, kAccent);
+    fill.setColorAt(1.0, kAccentLight);
+
+    QPainterPath tall;
+    tall.moveTo(0.5, bottom);
+    tall.lineTo(0.5 + kMarkSlant, top);
+    tall.lineTo(6.0 + kMarkSlant, top);
+    tall.lineTo(6.0, bottom);
+    tall.closeSubpath();
+
+    QPainterPath shortBar;
+    const qreal shortTop = top + kTextHeight * 0.35;
+    const qreal slant = kMarkSlant * 0.65;
+    shortBar.moveTo(8.5, bottom);
+    shortBar.lineTo(8.5 + slant, shortTop);
+    shortBar.lineTo(kMarkWidth - 2.0 + slant, shortTop);
+    shortBar.lineTo(kMarkWidth - 2.0, bottom);
+    shortBar.closeSubpath();
+
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawPath(tall);
+    painter.drawPath(shortBar);
+}
+
+void drawWord(QPainter& painter)
+{
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setBold(true);
+    font.setPixelSize(20);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, kLetterSpacing);
+
+    QPainterPath word;
+    word.addText(0, 0, font, QStringLiteral("NORVALEX"));
+    const QRectF bounds = word.boundingRect();
+    const QRectF target(kMarkWidth + kMarkSlant + kGap, (kHeight - kTextHeight) / 2.0,
+                        kWidth - (kMarkWidth + kMarkSlant + kGap) - 1.0, kTextHeight);
+
+    // Fit the outline exactly into the box, whatever the font's own metrics.
+    QTransform fit;
+    fit.translate(target.left(), target.top());
+    fit.scale(target.width() / bounds.width(), target.height() / bounds.height());
+    fit.translate(-bounds.left(), -bounds.top());
+
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kText);
+    painter.drawPath(fit.map(word));
+}
+
+QImage drawQX_Logo()
+{
+    QImage image(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawMark(painter);
+    drawWord(painter);
+    return image;
+}
+} // namespace
+
+NX_REGISTER_IMAGE("QX_Logo", drawQX_Logo);

@@ -1,0 +1,23 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>Information_Slots_View</name>
+    <message>
+        <source>Type:</source>
+        <translation>Type : </translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille : </translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>Fréquence : </translation>
+    </message>
+    <message>
+        <source>Temperature:</source>
+        <translation>Température : </translation>
+    </message>
+</context>
+</TS>

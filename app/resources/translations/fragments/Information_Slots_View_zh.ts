@@ -1,0 +1,23 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="en_US">
+<context>
+    <name>Information_Slots_View</name>
+    <message>
+        <source>Type:</source>
+        <translation>類型：</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>容量：</translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>頻率：</translation>
+    </message>
+    <message>
+        <source>Temperature:</source>
+        <translation>溫度：</translation>
+    </message>
+</context>
+</TS>
