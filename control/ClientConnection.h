@@ -1,0 +1,52 @@
+#pragma once
+
+#include "FrameDecoder.h"
+#include "Messages.h"
+
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+class QLocalSocket;
+
+// One client of the service: splits its stream into requests, refuses malformed ones with an
+// error reply (closing the connection when the framing itself is broken) and hands the valid
+// ones to the service.
+class ClientConnection : public QObject
+{
+    Q_OBJECT
+
+public:
+    using RequestHandler = std::function<void(ClientConnection&, const nxproto::Request&)>;
+
+    ClientConnection(QLocalSocket* socket, int id, RequestHandler handler,
+                     QObject* parent = nullptr);
+    ~ClientConnection() override;
+
+    int id() const { return id_; }
+    // The seq of the latest request taken from this client.
+    uint32_t lastSeq() const { return lastSeq_; }
+    bool wantsPreview() const { return wantsPreview_; }
+    void setWantsPreview(bool on) { wantsPreview_ = on; }
+
+    void send(const std::vector<uint8_t>& frame);
+    void close();
+
+signals:
+    void closed(ClientConnection* connection);
+
+private:
+    void readFrames();
+    void handleFrame(const nxproto::Frame& frame);
+    void refuse(uint32_t seq, nxproto::ErrorCode code, const std::string& reason);
+
+    QLocalSocket* socket_;
+    int id_;
+    RequestHandler handler_;
+    nxproto::FrameDecoder decoder_;
+    uint32_t lastSeq_ = 0;
+    bool wantsPreview_ = false;
+    bool closing_ = false;
+    int loggedFaults_ = 0;
+};

@@ -1,0 +1,151 @@
+#include "ControlService.h"
+
+#include <QLoggingCategory>
+
+Q_LOGGING_CATEGORY(lcService, "norvalex.control")
+
+ControlService::ControlService(const ServiceOptions& options, const QString& statePath,
+                               const QString& socketPath, QObject* parent)
+    : QObject(parent), options_(options), socketPath_(socketPath), stateFile_(statePath),
+      server_([this](ClientConnection& client, const nxproto::Request& request) {
+          handleRequest(client, request);
+      })
+{
+    // Changes made in one pass of the event loop go out as one push.
+    broadcastTimer_.setSingleShot(true);
+    broadcastTimer_.setInterval(0);
+    connect(&broadcastTimer_, &QTimer::timeout, this, &ControlService::broadcastState);
+
+    // Not restarted by later changes, so a steady stream of changes is still saved.
+    saveTimer_.setSingleShot(true);
+    saveTimer_.setInterval(kSaveDelayMs);
+    connect(&saveTimer_, &QTimer::timeout, this, &ControlService::saveNow);
+
+    frameTimer_.setTimerType(Qt::PreciseTimer);
+    frameTimer_.setInterval(kFrameIntervalMs);
+    connect(&frameTimer_, &QTimer::timeout, this, &ControlService::renderFrame);
+
+    connect(&server_, &ControlServer::clientConnected, this, &ControlService::welcome);
+}
+
+ControlService::~ControlService()
+{
+    stop();
+}
+
+const nxproto::HardwareInfo& ControlService::hardware() const
+{
+    return monitor_->info();
+}
+
+bool ControlService::start(QString* error)
+{
+    const StateFile::LoadResult loaded = stateFile_.load(&state_, &storedSimulation_);
+    simulation_ = options_.apply(storedSimulation_);
+    qCInfo(lcService).noquote() << (loaded == StateFile::LoadResult::Loaded
+                                        ? "state loaded from"
+                                        : "starting with defaults; state file")
+                                << stateFile_.path();
+    if (loaded != StateFile::LoadResult::Loaded)
+        saveNow();
+
+    monitor_ = std::make_unique<HardwareMonitor>(simulation_);
+    connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::broadcastHardware);
+    qCInfo(lcService) << "simulating" << simulation_.modules << "modules with" << simulation_.leds
+                      << "LEDs";
+
+    if (!server_.listen(socketPath_, error))
+        return false;
+    monitor_->start();
+    clock_.start();
+    frameTimer_.start();
+    return true;
+}
+
+void ControlService::stop()
+{
+    frameTimer_.stop();
+    broadcastTimer_.stop();
+    if (monitor_)
+        monitor_->disconnect(this);
+    if (dirty_ || saveTimer_.isActive())
+        saveNow();
+    server_.close();
+}
+
+void ControlService::handleRequest(ClientConnection& client, const nxproto::Request& request)
+{
+    if (request.type == nxproto::MessageType::SetPreview) {
+        client.setWantsPreview(request.preview);
+        return;
+    }
+    const uint32_t changes = nxproto::applyRequest(state_, request);
+    if (changes == 0)
+        return;
+    pendingChanges_ |= changes;
+    if (!broadcastTimer_.isActive())
+        broadcastTimer_.start();
+    scheduleSave();
+}
+
+void ControlService::welcome(ClientConnection* client)
+{
+    nxproto::StateMessage message;
+    message.ackSeq = client->lastSeq();
+    message.changes = nxproto::ChangeAll;
+    message.state = state_;
+    client->send(nxproto::encodeState(message));
+    client->send(nxproto::encodeHardware(monitor_->info()));
+}
+
+void ControlService::broadcastState()
+{
+    nxproto::StateMessage message;
+    message.changes = pendingChanges_;
+    message.state = state_;
+    pendingChanges_ = 0;
+    const auto clients = server_.clients();
+    for (ClientConnection* client : clients) {
+        message.ackSeq = client->lastSeq();
+        client->send(nxproto::encodeState(message));
+    }
+}
+
+void ControlService::broadcastHardware()
+{
+    const std::vector<uint8_t> frame = nxproto::encodeHardware(monitor_->info());
+    const auto clients = server_.clients();
+    for (ClientConnection* client : clients)
+        client->send(frame);
+}
+
+void ControlService::renderFrame()
+{
+    nxproto::PreviewMessage message;
+    message.frame = ++frameNumber_;
+    EffectRenderer::render(state_, monitor_->info(), double(clock_.elapsed()) / 1000.0,
+                           message.colors);
+    std::vector<uint8_t> frame;
+    const auto clients = server_.clients();
+    for (ClientConnection* client : clients) {
+        if (!client->wantsPreview())
+            continue;
+        if (frame.empty())
+            frame = nxproto::encodePreview(message);
+        client->send(frame);
+    }
+}
+
+void ControlService::scheduleSave()
+{
+    dirty_ = true;
+    if (!saveTimer_.isActive())
+        saveTimer_.start();
+}
+
+void ControlService::saveNow()
+{
+    saveTimer_.stop();
+    if (stateFile_.save(state_, storedSimulation_))
+        dirty_ = false;
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "ControlServer.h"
+#include "ControlState.h"
+#include "EffectRenderer.h"
+#include "HardwareMonitor.h"
+#include "ServiceOptions.h"
+#include "StateFile.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+// The control service: owns the lighting state, applies the clients' requests, pushes every
+// change to all clients, renders the LEDs at the frame rate and keeps the state on disk.
+class ControlService : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kFrameIntervalMs = 33;
+    static constexpr int kSaveDelayMs = 200;
+
+    ControlService(const ServiceOptions& options, const QString& statePath,
+                   const QString& socketPath, QObject* parent = nullptr);
+    ~ControlService() override;
+
+    bool start(QString* error);
+    // Saves what is unsaved and closes every connection.
+    void stop();
+
+    const nxproto::ControlState& state() const { return state_; }
+    const nxproto::HardwareInfo& hardware() const;
+    const SimulationConfig& simulation() const { return simulation_; }
+
+private:
+    void handleRequest(ClientConnection& client, const nxproto::Request& request);
+    void welcome(ClientConnection* client);
+    void broadcastState();
+    void broadcastHardware();
+    void renderFrame();
+    void scheduleSave();
+    void saveNow();
+
+    ServiceOptions options_;
+    QString socketPath_;
+    StateFile stateFile_;
+    nxproto::ControlState state_;
+    SimulationConfig storedSimulation_; // as kept in the state file
+    SimulationConfig simulation_;       // in effect, with this run's options
+    std::unique_ptr<HardwareMonitor> monitor_;
+    ControlServer server_;
+
+    uint32_t pendingChanges_ = 0;
+    QTimer broadcastTimer_;
+    QTimer saveTimer_;
+    bool dirty_ = false;
+    QTimer frameTimer_;
+    QElapsedTimer clock_;
+    uint32_t frameNumber_ = 0;
+};

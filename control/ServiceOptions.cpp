@@ -1,0 +1,90 @@
+#include "ServiceOptions.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool* exitNow)
+{
+    *exitNow = false;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("NORVALEX control service: owns the lighting state of the memory modules."));
+    const QCommandLineOption helpOption = parser.addHelpOption();
+    const QCommandLineOption versionOption = parser.addVersionOption();
+    const QCommandLineOption modulesOption(QStringLiteral("modules"),
+                                           QStringLiteral("Number of simulated modules, 0 to 8."),
+                                           QStringLiteral("count"));
+    const QCommandLineOption ledsOption(QStringLiteral("leds"),
+                                        QStringLiteral("LEDs per module, 5 or 8."),
+                                        QStringLiteral("count"));
+    const QCommandLineOption modelOption(
+        QStringLiteral("model"),
+        QStringLiteral("Model codes, comma-separated, given to the modules in turn."),
+        QStringLiteral("codes"));
+    parser.addOption(modulesOption);
+    parser.addOption(ledsOption);
+    parser.addOption(modelOption);
+
+    if (!parser.parse(arguments)) {
+        *message = parser.errorText();
+        return false;
+    }
+    if (parser.isSet(helpOption)) {
+        *message = parser.helpText();
+        *exitNow = true;
+        return true;
+    }
+    if (parser.isSet(versionOption)) {
+        *message = QCoreApplication::applicationName() + QLatin1Char(' ') +
+                   QCoreApplication::applicationVersion();
+        *exitNow = true;
+        return true;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        *message = QStringLiteral("unexpected argument: ") + parser.positionalArguments().first();
+        return false;
+    }
+    if (parser.isSet(modulesOption)) {
+        bool ok = false;
+        const int value = parser.value(modulesOption).toInt(&ok);
+        if (!ok || !SimulationConfig::validModules(value)) {
+            *message = QStringLiteral("--modules takes a number from 0 to 8");
+            return false;
+        }
+        modules = value;
+    }
+    if (parser.isSet(ledsOption)) {
+        bool ok = false;
+        const int value = parser.value(ledsOption).toInt(&ok);
+        if (!ok || !SimulationConfig::validLeds(value)) {
+            *message = QStringLiteral("--leds takes 5 or 8");
+            return false;
+        }
+        leds = value;
+    }
+    if (parser.isSet(modelOption)) {
+        std::vector<std::string> codes;
+        const QStringList parts = parser.value(modelOption).split(QLatin1Char(','));
+        for (const QString& part : parts) {
+            const std::string code = part.trimmed().toStdString();
+            if (!SimulationConfig::validModel(code)) {
+                *message = QStringLiteral("--model takes codes of 1 to 63 printable characters");
+                return false;
+            }
+            codes.push_back(code);
+        }
+        models = codes;
+    }
+    return true;
+}
+
+SimulationConfig ServiceOptions::apply(SimulationConfig stored) const
+{
+    if (modules)
+        stored.modules = *modules;
+    if (leds)
+        stored.leds = *leds;
+    if (models)
+        stored.models = *models;
+    return stored;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "SimulationConfig.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// Command line of norvalex-control. Every option overrides the stored configuration for this
+// run only.
+class ServiceOptions
+{
+public:
+    // False with a message for the user when the arguments are not usable; `exitNow` is set
+    // when --help or --version was answered.
+    bool parse(const QStringList& arguments, QString* message, bool* exitNow);
+
+    // The stored configuration with this run's overrides applied.
+    SimulationConfig apply(SimulationConfig stored) const;
+
+    std::optional<int> modules;
+    std::optional<int> leds;
+    std::optional<std::vector<std::string>> models;
+};

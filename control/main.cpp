@@ -1,0 +1,87 @@
+// norvalex-control: the background service behind the lighting library. One instance per
+// user; it quits on message 0x8301 to its window title and on SIGTERM or SIGINT, saving its
+// state first.
+
+#include "ControlServer.h"
+#include "ControlService.h"
+#include "Platform.h"
+#include "ServiceOptions.h"
+#include "SignalWatcher.h"
+#include "StateFile.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+#include <QMetaObject>
+
+#include <csignal>
+#include <cstdio>
+
+namespace {
+
+const wchar_t kMutexName[] = L"NORVALEX Control.exe";
+const wchar_t kWindowTitle[] = L"NORVALEX RGB Control";
+
+void onMessage(void* context, unsigned message, std::uintptr_t, std::intptr_t)
+{
+    if (message != Platform::kMessageQuit)
+        return;
+    qInfo("quit message received");
+    QMetaObject::invokeMethod(static_cast<QCoreApplication*>(context), "quit",
+                              Qt::QueuedConnection);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("norvalex-control"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(NX_VERSION));
+    qSetMessagePattern(
+        QStringLiteral("%{time yyyy-MM-dd hh:mm:ss.zzz} %{type} %{category}: %{message}"));
+    std::signal(SIGPIPE, SIG_IGN);
+
+    ServiceOptions options;
+    QString message;
+    bool exitNow = false;
+    if (!options.parse(QCoreApplication::arguments(), &message, &exitNow)) {
+        std::fprintf(stderr, "norvalex-control: %s\n", qPrintable(message));
+        return 2;
+    }
+    if (exitNow) {
+        std::fprintf(stdout, "%s\n", qPrintable(message));
+        return 0;
+    }
+
+    bool exists = false;
+    Platform::MutexHandle mutex = Platform::createMutex(kMutexName, &exists);
+    if (exists) {
+        Platform::closeHandle(mutex);
+        qInfo("another instance is running");
+        return 0;
+    }
+
+    SignalWatcher signalWatcher({SIGTERM, SIGINT});
+    QObject::connect(&signalWatcher, &SignalWatcher::received, &app, [](int number) {
+        qInfo("signal %d received", number);
+        QCoreApplication::quit();
+    });
+
+    int result = 1;
+    {
+        ControlService service(options, StateFile::defaultPath(),
+                               ControlServer::defaultSocketPath());
+        QString error;
+        if (service.start(&error)) {
+            void* listener = Platform::listenForMessages(kWindowTitle, &onMessage, &app);
+            result = QCoreApplication::exec();
+            Platform::stopListening(listener);
+            service.stop();
+            qInfo("stopped");
+        } else {
+            qCritical("cannot start: %s", qPrintable(error));
+        }
+    }
+    Platform::closeHandle(mutex);
+    return result;
+}
