@@ -18,6 +18,8 @@ const QString WheelPicture = QStringLiteral(":/QXRGBMemory/Images/palette.png");
 
 RGB_Palette::RGB_Palette(QWidget* parent) : QWidget(parent)
 {
+    // Lets queued connections and signal spies carry the colour by its own name.
+    qRegisterMetaType<COLORREF>("COLORREF");
     setGeometry(0, 0, WheelSize, WheelSize);
     label_Palette = new QLabel(this);
     label_Palette->setGeometry(0, 0, WheelSize, WheelSize);

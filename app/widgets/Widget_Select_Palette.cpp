@@ -22,6 +22,8 @@ const QColor PanelBorderColor(20, 20, 20);
 
 Widget_Select_Palette::Widget_Select_Palette(QWidget* parent) : QWidget(parent)
 {
+    // Lets queued connections and signal spies carry the colour by its own name.
+    qRegisterMetaType<COLORREF>("COLORREF");
     setGeometry(0, 0, PanelSize, PanelSize);
     setFocusPolicy(Qt::ClickFocus);
     label_Palette = new QLabel(this);
