@@ -1,0 +1,217 @@
+#include "TestEnvironment.h"
+
+#include "Loading_View.h"
+#include "Platform.h"
+
+#include <QEventLoop>
+#include <QLabel>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QThread>
+#include <QTimer>
+#include <QtTest>
+
+#include <vector>
+
+namespace {
+struct Received {
+    unsigned message;
+    std::uintptr_t wParam;
+    std::intptr_t lParam;
+};
+
+void record(void* context, unsigned message, std::uintptr_t wParam, std::intptr_t lParam)
+{
+    static_cast<std::vector<Received>*>(context)->push_back({message, wParam, lParam});
+}
+
+// Brightest grey value on a circle of the given radius around a centre.
+int brightestOnCircle(const QImage& image, const QPoint& centre, int radius)
+{
+    int brightest = 0;
+    for (int degree = 0; degree < 360; degree += 3) {
+        const double radians = qDegreesToRadians(double(degree));
+        const QPoint point(qRound(centre.x() + radius * std::cos(radians)),
+                           qRound(centre.y() + radius * std::sin(radians)));
+        brightest = qMax(brightest, qGray(image.pixel(point)));
+    }
+    return brightest;
+}
+} // namespace
+
+class TestLoadingView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void construction();
+    void startAndStop();
+    void startingTwiceKeepsTheRunningTimer();
+    void angleSequence();
+    void timerTurnsTheRing();
+    void spinnerIsDrawnRightOfTheMiddleOnlyWhileLoading();
+    void productWarning();
+    // Last: it asks the application to quit.
+    void closeAppQuitsAndTellsTheRunningPrograms();
+};
+
+void TestLoadingView::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+}
+
+void TestLoadingView::construction()
+{
+    Loading_View view;
+    QCOMPARE(view.size(), QSize(1000, 600));
+    QCOMPARE(view.spinnerAngle(), 20);
+    QVERIFY(!view.loading());
+    QVERIFY(!view.spinnerTimer()->isActive());
+
+    QVERIFY(view.label_Warning->isHidden());
+    QCOMPARE(view.label_Warning->objectName(), QStringLiteral("label_Warning"));
+    QCOMPARE(view.label_Warning->geometry(), QRect(283, 235, 434, 130));
+    QCOMPARE(view.label_Warning_Content->parentWidget(), view.label_Warning);
+    QCOMPARE(view.label_Warning_Content->geometry(), QRect(0, 0, 434, 65));
+    QCOMPARE(view.label_Warning_Content->text(), QStringLiteral("Can not Find QX NORVALEX"));
+    QCOMPARE(view.label_Warning_Content->alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
+    QCOMPARE(view.btn_OK->parentWidget(), view.label_Warning);
+    QCOMPARE(view.btn_OK->geometry(), QRect(192, 100, 50, 20));
+    QCOMPARE(view.btn_OK->text(), QStringLiteral("OK"));
+}
+
+void TestLoadingView::startAndStop()
+{
+    Loading_View view;
+    view.isStartLoading(true);
+    QVERIFY(view.isVisible());
+    QVERIFY(view.loading());
+    QVERIFY(view.spinnerTimer()->isActive());
+    QCOMPARE(view.spinnerTimer()->interval(), 40);
+
+    view.isStartLoading(false);
+    QVERIFY(view.isHidden());
+    QVERIFY(!view.loading());
+    QVERIFY(!view.spinnerTimer()->isActive());
+
+    // Stopping again is harmless; starting again resumes.
+    view.isStartLoading(false);
+    QVERIFY(!view.spinnerTimer()->isActive());
+    view.isStartLoading(true);
+    QVERIFY(view.spinnerTimer()->isActive());
+}
+
+void TestLoadingView::startingTwiceKeepsTheRunningTimer()
+{
+    Loading_View view;
+    view.isStartLoading(true);
+    // No event processing here: the timer cannot fire, only run down.
+    QThread::msleep(25);
+    const int remaining = view.spinnerTimer()->remainingTime();
+    QVERIFY2(remaining < 30, qPrintable(QString::number(remaining)));
+    view.isStartLoading(true);
+    QVERIFY(view.spinnerTimer()->isActive());
+    QVERIFY(view.spinnerTimer()->remainingTime() <= remaining);
+}
+
+void TestLoadingView::angleSequence()
+{
+    Loading_View view;
+    QList<int> angles;
+    for (int i = 0; i < 19; ++i) {
+        view.rotate();
+        angles << view.spinnerAngle();
+    }
+    const QList<int> expected = {40,  60,  80,  100, 120, 140, 160, 180, 200, 220,
+                                 240, 260, 280, 300, 320, 340, 0,   20,  40};
+    QCOMPARE(angles, expected);
+}
+
+void TestLoadingView::timerTurnsTheRing()
+{
+    Loading_View view;
+    view.isStartLoading(true);
+    QTRY_VERIFY_WITH_TIMEOUT(view.spinnerAngle() != 20, 1000);
+    view.isStartLoading(false);
+    const int stopped = view.spinnerAngle();
+    QTest::qWait(120);
+    QCOMPARE(view.spinnerAngle(), stopped);
+}
+
+void TestLoadingView::spinnerIsDrawnRightOfTheMiddleOnlyWhileLoading()
+{
+    Loading_View view;
+    view.isStartLoading(true);
+    const QImage loading = view.grab().toImage();
+    const QPoint ringCentre(553, 300);
+    const QPoint mirrored(447, 300);
+    const int shade = qGray(loading.pixel(10, 10));
+    QVERIFY2(brightestOnCircle(loading, ringCentre, 40) > shade + 50,
+             qPrintable(QString::number(shade)));
+    QVERIFY(brightestOnCircle(loading, mirrored, 40) <= shade + 5);
+    // The ring is thin: its centre stays dark.
+    QVERIFY(qGray(loading.pixel(ringCentre)) <= shade + 5);
+
+    view.isStartLoading(false);
+    const QImage idle = view.grab().toImage();
+    QVERIFY(brightestOnCircle(idle, ringCentre, 40) <= qGray(idle.pixel(10, 10)) + 5);
+}
+
+void TestLoadingView::productWarning()
+{
+    Loading_View view;
+    view.show();
+    view.isProductWarning(true);
+    QVERIFY(view.label_Warning->isVisible());
+    QVERIFY(view.btn_OK->isVisible());
+    view.isProductWarning(false);
+    QVERIFY(!view.label_Warning->isVisible());
+}
+
+void TestLoadingView::closeAppQuitsAndTellsTheRunningPrograms()
+{
+    std::vector<Received> panel;
+    std::vector<Received> control;
+    void* panelWindow = Platform::listenForMessages(L"NORVALEX RGB", &record, &panel);
+    void* controlWindow = Platform::listenForMessages(L"NORVALEX RGB Control", &record, &control);
+
+    Loading_View view;
+    view.show();
+    view.isProductWarning(true);
+
+    // Neither program holds its name: nobody is told, the application still quits.
+    QEventLoop loop;
+    QTimer::singleShot(0, &view, [&view]() { QTest::mouseClick(view.btn_OK, Qt::LeftButton); });
+    QTimer::singleShot(3000, &loop, [&loop]() { loop.exit(99); });
+    QCOMPARE(loop.exec(), 0);
+    QVERIFY(panel.empty());
+    QVERIFY(control.empty());
+
+    // Both running: each window gets the quit message with 1, 1.
+    bool existed = true;
+    Platform::MutexHandle panelName = Platform::createMutex(L"NORVALEX RGB.exe", &existed);
+    QVERIFY(!existed);
+    Platform::MutexHandle controlName = Platform::createMutex(L"NORVALEX Control.exe", &existed);
+    QVERIFY(!existed);
+    QTest::mouseClick(view.btn_OK, Qt::LeftButton);
+    QCOMPARE(int(panel.size()), 1);
+    QCOMPARE(panel[0].message, Platform::kMessageQuit);
+    QCOMPARE(panel[0].wParam, std::uintptr_t(1));
+    QCOMPARE(panel[0].lParam, std::intptr_t(1));
+    QCOMPARE(int(control.size()), 1);
+    QCOMPARE(control[0].message, Platform::kMessageQuit);
+
+    // Only the control service running.
+    Platform::closeHandle(panelName);
+    QTest::mouseClick(view.btn_OK, Qt::LeftButton);
+    QCOMPARE(int(panel.size()), 1);
+    QCOMPARE(int(control.size()), 2);
+
+    Platform::closeHandle(controlName);
+    Platform::stopListening(controlWindow);
+    Platform::stopListening(panelWindow);
+}
+
+QTEST_MAIN(TestLoadingView)
+#include "tst_loading_view.moc"
