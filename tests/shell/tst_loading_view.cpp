@@ -3,7 +3,6 @@
 #include "Loading_View.h"
 #include "Platform.h"
 
-#include <QEventLoop>
 #include <QLabel>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -11,6 +10,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <functional>
 #include <vector>
 
 namespace {
@@ -23,6 +23,23 @@ struct Received {
 void record(void* context, unsigned message, std::uintptr_t wParam, std::intptr_t lParam)
 {
     static_cast<std::vector<Received>*>(context)->push_back({message, wParam, lParam});
+}
+
+// Runs `action` inside the application's event loop and tells whether it asked the
+// application to quit. The application's own exec() clears the quit request afterwards.
+bool requestsQuit(const std::function<void()>& action)
+{
+    bool timedOut = false;
+    QTimer guard;
+    guard.setSingleShot(true);
+    QObject::connect(&guard, &QTimer::timeout, [&timedOut]() {
+        timedOut = true;
+        QCoreApplication::exit(1);
+    });
+    guard.start(3000);
+    QTimer::singleShot(0, action);
+    const int code = QCoreApplication::exec();
+    return !timedOut && code == 0;
 }
 
 // Brightest grey value on a circle of the given radius around a centre.
@@ -52,7 +69,6 @@ private slots:
     void timerTurnsTheRing();
     void spinnerIsDrawnRightOfTheMiddleOnlyWhileLoading();
     void productWarning();
-    // Last: it asks the application to quit.
     void closeAppQuitsAndTellsTheRunningPrograms();
 };
 
@@ -180,11 +196,10 @@ void TestLoadingView::closeAppQuitsAndTellsTheRunningPrograms()
     view.show();
     view.isProductWarning(true);
 
+    const auto clickOK = [&view]() { QTest::mouseClick(view.btn_OK, Qt::LeftButton); };
+
     // Neither program holds its name: nobody is told, the application still quits.
-    QEventLoop loop;
-    QTimer::singleShot(0, &view, [&view]() { QTest::mouseClick(view.btn_OK, Qt::LeftButton); });
-    QTimer::singleShot(3000, &loop, [&loop]() { loop.exit(99); });
-    QCOMPARE(loop.exec(), 0);
+    QVERIFY(requestsQuit(clickOK));
     QVERIFY(panel.empty());
     QVERIFY(control.empty());
 
@@ -194,7 +209,7 @@ void TestLoadingView::closeAppQuitsAndTellsTheRunningPrograms()
     QVERIFY(!existed);
     Platform::MutexHandle controlName = Platform::createMutex(L"NORVALEX Control.exe", &existed);
     QVERIFY(!existed);
-    QTest::mouseClick(view.btn_OK, Qt::LeftButton);
+    QVERIFY(requestsQuit(clickOK));
     QCOMPARE(int(panel.size()), 1);
     QCOMPARE(panel[0].message, Platform::kMessageQuit);
     QCOMPARE(panel[0].wParam, std::uintptr_t(1));
@@ -204,7 +219,7 @@ void TestLoadingView::closeAppQuitsAndTellsTheRunningPrograms()
 
     // Only the control service running.
     Platform::closeHandle(panelName);
-    QTest::mouseClick(view.btn_OK, Qt::LeftButton);
+    QVERIFY(requestsQuit(clickOK));
     QCOMPARE(int(panel.size()), 1);
     QCOMPARE(int(control.size()), 2);
 
