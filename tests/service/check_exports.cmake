@@ -1,0 +1,22 @@
+# Compares the dynamic symbols a shared library defines with the expected list.
+# Usage: cmake -DNM=<nm> -DLIBRARY=<file> -DEXPECTED=<a;b;...> -P check_exports.cmake
+execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY}
+                OUTPUT_VARIABLE listing RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "nm failed on the library")
+endif()
+string(REPLACE "\n" ";" lines "${listing}")
+set(found "")
+foreach(line IN LISTS lines)
+  if(line MATCHES "^[0-9a-fA-F]+ [A-Za-z] (.+)$")
+    list(APPEND found ${CMAKE_MATCH_1})
+  endif()
+endforeach()
+list(SORT found)
+set(expected ${EXPECTED})
+list(SORT expected)
+if(NOT found STREQUAL expected)
+  message(FATAL_ERROR "exported symbols differ\n  found:    ${found}\n  expected: ${expected}")
+endif()
+list(LENGTH found count)
+message(STATUS "${count} exports, as expected")
