@@ -24,6 +24,7 @@
 #include <QPropertyAnimation>
 #include <QPushButton>
 #include <QSlider>
+#include <QStandardItemModel>
 
 #include <algorithm>
 #include <initializer_list>
@@ -67,9 +68,9 @@ constexpr int kProfileX = 10;
 constexpr int kProfileTop = 53;
 constexpr int kProfilePitch = 35;
 constexpr QSize kProfileSize(80, 30);
-constexpr QRect kEditRect(10, 275, 80, 30);
-constexpr QRect kEditApplyRect(10, 240, 80, 30);
-constexpr QRect kEditCancelRect(10, 275, 80, 30);
+constexpr QRect kEditRect(10, 275, 90, 30);
+constexpr QRect kEditApplyRect(10, 240, 90, 30);
+constexpr QRect kEditCancelRect(10, 275, 90, 30);
 constexpr QSize kEditMinimum(48, 20);
 
 // Deck controls (deck coordinates).
@@ -81,9 +82,10 @@ constexpr QRect kColorModeComboRect(160, 70, 100, 30);
 constexpr QRect kSpeedLabelRect(20, 130, 138, 30);
 constexpr QRect kSpeedComboRect(160, 130, 100, 30);
 constexpr int kUnderlineHeight = 3;
+constexpr int kComboArrowWidth = 16;
 constexpr QRect kTurnLightLabelRect(20, 185, 138, 30);
 constexpr QRect kSwitchRect(160, 191, 47, 19);
-constexpr QRect kSwitchLabelRect(215, 185, 80, 30);
+constexpr QRect kSwitchLabelRect(215, 185, 90, 30);
 constexpr QPoint kPalettePos(310, 27);
 constexpr QRect kApplyRect(530, 70, 130, 40);
 constexpr QRect kDefaultRect(530, 125, 130, 40);
@@ -134,6 +136,9 @@ constexpr int kLanguageJapanese = 5;
 constexpr int kLanguageRussian = 7;
 constexpr int kLanguageSpanish = 9;
 constexpr int kSpeedComboSmall = 12;
+// Profile captions: the Japanese word needs a smaller size to fit the button.
+constexpr int kProfileFont = 12;
+constexpr int kProfileFontSmall = 10;
 constexpr int kSpeedComboNormal = 14;
 
 LanguageFonts fontsForLanguage(int language)
@@ -171,12 +176,13 @@ const char* const kComboStyle =
     " border:none; padding-left:6px; combobox-popup:0;}"
     "QComboBox#%1:disabled{color:rgb(110,110,110);}"
     "QComboBox#%1::drop-down{border:none; width:16px;}"
-    "QComboBox#%1::down-arrow{width:0px; height:0px; border-left:5px solid transparent;"
-    " border-right:5px solid transparent; border-top:6px solid rgb(150,150,150);}"
-    "QComboBox#%1::down-arrow:disabled{border-top:6px solid rgb(80,80,80);}"
+    "QComboBox#%1::down-arrow{image:none; width:0px; height:0px;}"
     "QComboBox#%1 QAbstractItemView{font-family: Arial; font-size:%2px; color:white;"
     " background-color:rgb(40,40,40); border:1px solid rgb(70,70,70); outline:0;"
     " selection-background-color:rgb(0,122,204); selection-color:white;}";
+const char* const kComboArrowStyle =
+    "QLabel{font-family: Arial; font-size:9px; color:rgb(160,160,160); background:transparent;}"
+    "QLabel:disabled{color:rgb(75,75,75);}";
 const char* const kUnderlineStyle = "background-color:rgb(105,109,110);";
 const char* const kLightModeButtonStyle =
     "QPushButton#btn_LightMode{font-family: Arial; font-size:14px; color:white;"
@@ -230,16 +236,16 @@ const char* const kDefaultStyle =
     "QPushButton#btn_Default:hover{background-color:rgba(32,158,199,40);}"
     "QPushButton#btn_Default:pressed{background-color:rgba(0,122,204,90);}";
 const char* const kEditButtonStyle =
-    "QPushButton#%1{font-family: Arial; font-size:13px; color:rgb(220,220,220);"
+    "QPushButton#%1{font-family: Arial; font-size:12px; color:rgb(220,220,220);"
     " background-color:rgb(42,42,44); border:1px solid rgb(80,80,80); border-radius:4px;}"
     "QPushButton#%1:hover{border:1px solid rgb(32,158,199);}"
     "QPushButton#%1:pressed{background-color:rgb(0,122,204);}";
 const char* const kEditApplyStyle =
-    "QPushButton#btn_Edit_Apply{font-family: Arial; font-size:13px; color:white;"
+    "QPushButton#btn_Edit_Apply{font-family: Arial; font-size:12px; color:white;"
     " background-color:rgb(0,122,204); border:none; border-radius:4px;}"
     "QPushButton#btn_Edit_Apply:hover{background-color:rgb(32,158,199);}";
 const char* const kProfileStyle =
-    "QPushButton{font-family: Arial; font-size:12px; color:rgb(170,170,170);"
+    "QPushButton{font-family: Arial; font-size:%1px; color:rgb(170,170,170);"
     " background-color:rgb(40,40,42); border:1px solid rgb(62,62,62); border-radius:4px;}"
     "QPushButton:hover{color:white; border:1px solid rgb(90,90,90);}"
     "QPushButton:checked{color:white; background-color:rgba(0,122,204,70);"
@@ -258,12 +264,12 @@ const char* const kRowButtonStyle =
 const char* const kMarkerStyle =
     "QPushButton{font-family: Arial; font-size:16px; color:rgb(150,150,150);"
     " background:transparent; border:none;}"
-    "QPushButton:checked{color:rgb(32,158,199); font-weight:bold;}";
+    "QPushButton:checked{color:rgba(0,0,0,0); background-color:rgba(32,158,199,45);"
+    " border:1px solid rgb(32,158,199); border-radius:15px;}";
 const char* const kPreviewLabelStyle =
     "QLabel#label_Preview{font-family: Arial; font-size:16px; color:rgb(200,200,200);}";
 const char* const kWellStyle =
-    "QLabel{background-color:rgba(0,122,204,28); border:1px dashed rgba(32,158,199,140);"
-    " border-radius:6px;}";
+    "QLabel{background-color:rgba(0,122,204,38); border:none; border-radius:6px;}";
 const char* const kDeckStyle =
     "QWidget#widget_Lighting_Control{background-color:rgba(255,255,255,7);"
     " border-top:1px solid rgba(255,255,255,22);}";
@@ -308,13 +314,30 @@ void retranslateCombo(QComboBox* combo)
     }
 }
 
+// A small arrow at the right end of a combo; it dims with the combo.
+void addComboArrow(QComboBox* combo)
+{
+    auto* arrow = new QLabel(QStringLiteral("\u25BC"), combo);
+    arrow->setObjectName(QStringLiteral("label_ComboArrow"));
+    arrow->setStyleSheet(QString::fromLatin1(kComboArrowStyle));
+    arrow->setAlignment(Qt::AlignCenter);
+    arrow->setGeometry(combo->width() - kComboArrowWidth, 0, kComboArrowWidth, combo->height());
+    arrow->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
 // Appends an item with an empty text that the drop-down never shows; selecting it tells the user
 // that the selected modules disagree.
 void appendHiddenEmptyItem(QComboBox* combo)
 {
     combo->addItem(QString());
+    const int row = combo->count() - 1;
     if (auto* view = qobject_cast<QListView*>(combo->view()))
-        view->setRowHidden(combo->count() - 1, true);
+        view->setRowHidden(row, true);
+    // Not enabled either, so the arrow keys on the closed combo step over it.
+    if (auto* model = qobject_cast<QStandardItemModel*>(combo->model())) {
+        if (QStandardItem* item = model->item(row))
+            item->setFlags(item->flags() & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable));
+    }
 }
 
 } // namespace
@@ -429,6 +452,7 @@ void Lighting_View::createModeControls(QWidget* deck)
         styled(kComboStyle, comboBox_ColorMode->objectName(), QString::number(kSpeedComboNormal)));
     for (const QString& key : LightModeTable::colorModeKeys())
         addKeyedItem(comboBox_ColorMode, key);
+    addComboArrow(comboBox_ColorMode);
 
     line_ColorMode = new QLabel(deck);
     line_ColorMode->setObjectName(QStringLiteral("line_ColorMode"));
@@ -445,6 +469,7 @@ void Lighting_View::createModeControls(QWidget* deck)
     comboBox_LightSpeed->setGeometry(kSpeedComboRect);
     for (const QString& key : LightModeTable::speedKeys())
         addKeyedItem(comboBox_LightSpeed, key);
+    addComboArrow(comboBox_LightSpeed);
 
     line_LightSpeed = new QLabel(deck);
     line_LightSpeed->setObjectName(QStringLiteral("line_LightSpeed"));
@@ -644,7 +669,6 @@ void Lighting_View::createProfileButtons()
         button->setObjectName(QStringLiteral("btn_Profile%1").arg(id));
         button->setCheckable(true);
         button->setFocusPolicy(Qt::NoFocus);
-        button->setStyleSheet(QString::fromLatin1(kProfileStyle));
         button->setGeometry(
             QRect(QPoint(kProfileX, kProfileTop + id * kProfilePitch), kProfileSize));
         buttonGroup_Profile->addButton(button, id);
@@ -751,6 +775,9 @@ void Lighting_View::applyLanguageFonts()
         currentLanguage == kLanguageRussian ? kSpeedComboSmall : kSpeedComboNormal;
     comboBox_LightSpeed->setStyleSheet(
         styled(kComboStyle, comboBox_LightSpeed->objectName(), QString::number(speedCombo)));
+    const int profileFont = currentLanguage == kLanguageJapanese ? kProfileFontSmall : kProfileFont;
+    for (QPushButton* profile : btn_Profile)
+        profile->setStyleSheet(QString::fromLatin1(kProfileStyle).arg(profileFont));
 }
 
 // ----- light-mode rule --------------------------------------------------------------------------
