@@ -49,6 +49,8 @@ const int kTriggerMaxWidth = 200;
 const int kShutdownMinWidth = 250;
 const int kShutdownMaxWidth = 450;
 const int kFanActionMinWidth = 200;
+// The action column takes nearly all spare width, up to its labels' maximum.
+const int kActionStretch = 100;
 
 const int kLoadMin = 0;
 const int kLoadMax = 100;
@@ -201,9 +203,13 @@ void Noti_View::createWidgets()
     }
     label_FanSpeed = new QLabel(widget_Grid);
     label_FanSpeed->setMinimumWidth(kFanActionMinWidth);
-    // Longer translations wrap instead of being cut off.
-    for (QLabel* label : {label_Shutdown_Memory, label_Shutdown_CPU, label_FanSpeed})
+    label_FanSpeed->setMaximumWidth(kShutdownMaxWidth);
+    // Longer translations wrap instead of being cut off. The three labels share one maximum, so
+    // that each is as wide as the column whose width the layout measures the wrapping with.
+    for (QLabel* label : {label_Shutdown_Memory, label_Shutdown_CPU, label_FanSpeed}) {
         label->setWordWrap(true);
+        label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    }
 
     lineEdit_Loading = createThresholdEdit(QStringLiteral("lineEdit_Loading"), kLoadMin, kLoadMax);
     lineEdit_Shutdown_Memory = createThresholdEdit(QStringLiteral("lineEdit_Shutdown_Memory"),
@@ -308,8 +314,10 @@ void Noti_View::buildGrid()
     grid->addWidget(btn_Unit_FanSpeed, 3, ColUnit);
     grid->addWidget(label_FanSpeed, 3, ColAction);
 
-    // Rows keep their natural height at the top; the text column takes the spare width.
+    // Rows keep their natural height at the top; the action column takes the spare width, so
+    // that the actions read on one line where they can.
     grid->setRowStretch(4, 1);
+    grid->setColumnStretch(ColAction, kActionStretch);
     grid->setColumnStretch(ColAction + 1, 1);
 }
 

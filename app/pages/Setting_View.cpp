@@ -44,6 +44,7 @@ const QSize kOptionLabelMinimum(450, 30);
 const QSize kVersionCaptionSize(80, 30);
 const QSize kVersionTextSize(180, 30);
 const QSize kLanguageListSize(300, 200);
+const int kCaptionColumnMinWidth = 120;
 // Widest and smallest type for the fixed-width version caption.
 const int kCaptionFontSize = 22;
 const int kCaptionMinFontSize = 12;
@@ -179,17 +180,22 @@ void Setting_View::buildGrid()
     grid->setContentsMargins(kGridMargin, kGridMargin, kGridMargin, kGridMargin);
     grid->setSpacing(kGridSpacing);
 
+    // Fixed-size widgets are aligned in their cells, so that they do not cap their column's
+    // width and the captions beside them can take the whole row.
+    const Qt::Alignment fixed = Qt::AlignLeft | Qt::AlignVCenter;
     grid->addWidget(label_Language, 0, 0);
-    grid->addWidget(btn_Language, 0, 1);
-    grid->addWidget(switch_AutoUpdate, 1, 0);
+    grid->addWidget(btn_Language, 0, 1, fixed);
+    grid->addWidget(switch_AutoUpdate, 1, 0, fixed);
     grid->addWidget(label_AutoUpdate, 1, 1);
-    grid->addWidget(switch_AutoRun, 2, 0);
+    grid->addWidget(switch_AutoRun, 2, 0, fixed);
     grid->addWidget(label_AutoRun, 2, 1);
-    grid->addWidget(switch_CurrentLocation, 3, 0);
+    grid->addWidget(switch_CurrentLocation, 3, 0, fixed);
     grid->addWidget(label_CurrentLocation, 3, 1);
-    grid->addWidget(label_Version, 4, 0);
-    grid->addWidget(label_Version_Value, 4, 1);
+    grid->addWidget(label_Version, 4, 0, fixed);
+    grid->addWidget(label_Version_Value, 4, 1, fixed);
 
+    // Some room between the captions and the values beside them.
+    grid->setColumnMinimumWidth(0, kCaptionColumnMinWidth);
     grid->setColumnStretch(1, 1);
     // Lay out the container now, so that the list can be placed under the button at once.
     grid->activate();

@@ -11,6 +11,10 @@ const char kButtonStyle[] = "QPushButton {font-family: Arial; font-size:12px;col
                             "background-color:rgba(0,0,0,0);}"
                             "QPushButton:hover:!pressed {color:black; background-color:gray;}";
 
+// Adds to each button's own style what that style leaves open: no frame, a little room, and
+// rounded corners for the highlight under the pointer.
+const char kListStyle[] = "QPushButton {border:none; border-radius:3px; padding:4px 6px;}";
+
 const QColor kPanelFill(40, 40, 40, 245);
 const QColor kPanelBorder(20, 20, 20);
 const int kGridMargin = 10;
@@ -29,6 +33,8 @@ Widget_Language::Widget_Language(int width, int height, QWidget* parent) : QWidg
     resize(width, height);
     setFocusPolicy(Qt::ClickFocus);
 
+    setStyleSheet(QLatin1String(kListStyle));
+
     gridLayout = new QGridLayout(this);
     gridLayout->setContentsMargins(kGridMargin, kGridMargin, kGridMargin, kGridMargin);
     gridLayout->setSpacing(kGridSpacing);
@@ -43,6 +49,8 @@ Widget_Language::Widget_Language(int width, int height, QWidget* parent) : QWidg
         button->setStyleSheet(QLatin1String(kButtonStyle));
         button->setObjectName(QString::number(i));
         button->setCursor(Qt::PointingHandCursor);
+        // The highlight spans the whole cell.
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         // The list keeps the focus while a button is pressed; otherwise the press would move
         // the focus to the button and the list would close before the release.
         button->setFocusPolicy(Qt::NoFocus);

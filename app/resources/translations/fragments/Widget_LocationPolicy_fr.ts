@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Location_Warning_Title</source>
-        <translation>Confidentialité</translation>
+        <translation>Politique de confidentialité</translation>
     </message>
     <message>
         <source>Location_Warning_Content</source>
