@@ -160,7 +160,7 @@ void TestLightingLibrary::answersAtOnceWithoutService()
     for (int round = 0; round < 21; ++round) {
         QElapsedTimer call;
         call.start();
-        api_.SetValueLighting(2, 19, 1, 3, round % 2 == 0);
+        api_.SetValueLighting(2, 19, 1, 3, round % 2 == 1);
         api_.GetValueHWData();
         api_.GetValueLightMode(2);
         times.push_back(call.nsecsElapsed());
