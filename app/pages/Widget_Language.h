@@ -15,7 +15,7 @@ class Widget_Language : public QWidget
 public:
     static constexpr int kLanguageCount = 10;
 
-    Widget_Language(int width, int height, QWidget* parent = nullptr);
+    explicit Widget_Language(int width, int height, QWidget* parent = nullptr);
 
 signals:
     void selectLanguage(int index);
