@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -451,6 +452,27 @@ void TestControlService::reportsConfiguredModules()
     QVERIFY(decodeHardware(frame, first, nullptr));
     QCOMPARE(first.memoryCount, 4);
     QCOMPARE(first.slotCount, 4);
+    QVERIFY(service_->terminate());
+
+    // The stored configuration key chooses the modules of a plain start.
+    QFile file(service_->statePath());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+    file.close();
+    QJsonObject simulation = object.value(QStringLiteral("simulation")).toObject();
+    simulation.insert(QStringLiteral("modules"), 0);
+    object.insert(QStringLiteral("simulation"), simulation);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(QJsonDocument(object).toJson());
+    file.close();
+    QVERIFY(service_->start());
+    RawClient empty;
+    QVERIFY(empty.connectTo(service_->socketPath()));
+    QVERIFY(empty.waitFor(MessageType::Hardware, &frame));
+    QVERIFY(decodeHardware(frame, first, nullptr));
+    QCOMPARE(first.memoryCount, 0);
+    QCOMPARE(first.slotCount, 4);
+    QVERIFY(!first.modules[0].present);
 }
 
 void TestControlService::previewFollowsTheFrameRate()
