@@ -381,6 +381,9 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
     widget_Light_Mode_View->move(kLightModeListRect.topLeft());
     widget_Light_Mode_View->setLightModeMap(lightModeMap);
     widget_Light_Mode_View->hide();
+    // A click on the mode button must not pass the focus on to the page while the list holds
+    // it: the list would close and the click would open it again.
+    btn_LightMode->setFocusProxy(widget_Light_Mode_View);
 
     palette_draw_rect = new Palette_draw_rect(this);
     palette_draw_rect->setGeometry(0, 0, kPageWidth, kPageHeight);
