@@ -5,6 +5,7 @@
 #include <QConicalGradient>
 #include <QCoreApplication>
 #include <QDebug>
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -80,7 +81,6 @@ Loading_View::Loading_View(QWidget* parent) : QWidget(parent)
 
     label_Warning_Content = new QLabel(label_Warning);
     label_Warning_Content->setObjectName(QStringLiteral("label_Warning_Content"));
-    label_Warning_Content->setText(tr("Can not Find QX NORVALEX"));
     label_Warning_Content->setStyleSheet(QString::fromLatin1(kWarningContentStyle));
     label_Warning_Content->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     label_Warning_Content->setWordWrap(true);
@@ -88,12 +88,26 @@ Loading_View::Loading_View(QWidget* parent) : QWidget(parent)
 
     btn_OK = new QPushButton(label_Warning);
     btn_OK->setObjectName(QStringLiteral("btn_OK"));
-    btn_OK->setText(tr("OK"));
     btn_OK->setGeometry((label_Warning->width() - kButtonWidth) / 2,
                         label_Warning->height() - kButtonBottomGap, kButtonWidth, kButtonHeight);
     btn_OK->setStyleSheet(QString::fromLatin1(kButtonStyle));
     btn_OK->setCursor(Qt::PointingHandCursor);
     connect(btn_OK, &QPushButton::released, this, &Loading_View::slot_CloseApp);
+    applyTexts();
+}
+
+void Loading_View::applyTexts()
+{
+    label_Warning_Content->setText(tr("Can not Find QX NORVALEX"));
+    btn_OK->setText(tr("OK"));
+}
+
+void Loading_View::changeEvent(QEvent* event)
+{
+    // The overlay exists before the stored language is known; follow later changes.
+    if (event->type() == QEvent::LanguageChange)
+        applyTexts();
+    QWidget::changeEvent(event);
 }
 
 void Loading_View::isStartLoading(bool on)

@@ -33,8 +33,10 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void applyTexts();
     void drawShade(QPainter& painter);
     void drawSpinner(QPainter& painter);
 

@@ -57,6 +57,8 @@ private slots:
     void gaugeIsPaintedClockwiseFromTheLeft_data();
     void gaugeIsPaintedClockwiseFromTheLeft();
     void languageRefresh();
+    void gaugeCaptionsFitInEveryLanguage_data();
+    void gaugeCaptionsFitInEveryLanguage();
     void olderPresentationOfTheRecord();
 
 private:
@@ -322,7 +324,7 @@ void TestInformationView::languageRefresh()
     QCoreApplication::installTranslator(translator.get());
     currentLanguage = 3;
     page->updateLanguage_Info();
-    QCOMPARE(label("label_Dashboard")->text(), QStringLiteral("Auslastung"));
+    QCOMPARE(label("label_Dashboard")->text(), QStringLiteral("Last"));
     QCOMPARE(label("label_Dashboard_Low")->text(), QStringLiteral("Niedrig"));
     QCOMPARE(high->text(), QStringLiteral("Hoch"));
     QVERIFY(high->styleSheet().contains(QStringLiteral("font-size:28px")));
@@ -334,6 +336,35 @@ void TestInformationView::languageRefresh()
     page->updateLanguage_Info();
     QVERIFY(high->styleSheet().contains(QStringLiteral("font-size:24px")));
     QVERIFY(high->text() != QStringLiteral("High"));
+}
+
+void TestInformationView::gaugeCaptionsFitInEveryLanguage_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::addColumn<QString>("code");
+    const char* const codes[] = {"en", "zh", "cn", "de", "fr", "jp", "th", "ru", "kr", "es"};
+    for (int index = 0; index < 10; ++index)
+        QTest::newRow(codes[index]) << index << QString::fromLatin1(codes[index]);
+}
+
+void TestInformationView::gaugeCaptionsFitInEveryLanguage()
+{
+    QFETCH(int, language);
+    QFETCH(QString, code);
+    translator = std::make_unique<QTranslator>();
+    QVERIFY(
+        translator->load(QStringLiteral(":/QXRGBMemory/NORVALEX_") + code + QStringLiteral(".qm")));
+    QCoreApplication::installTranslator(translator.get());
+    currentLanguage = language;
+    page->updateLanguage_Info();
+
+    for (const char* name : {"label_Dashboard", "label_Dashboard_Low", "label_Dashboard_High"}) {
+        QLabel* caption = label(name);
+        QVERIFY(caption->text() != QString());
+        const int textWidth = caption->fontMetrics().horizontalAdvance(caption->text());
+        QVERIFY2(textWidth <= caption->width(),
+                 qPrintable(caption->text() + QLatin1Char(' ') + QString::number(textWidth)));
+    }
 }
 
 void TestInformationView::olderPresentationOfTheRecord()

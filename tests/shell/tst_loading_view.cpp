@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 #include <QThread>
 #include <QTimer>
+#include <QTranslator>
 #include <QtTest>
 
 #include <functional>
@@ -69,6 +70,7 @@ private slots:
     void timerTurnsTheRing();
     void spinnerIsDrawnRightOfTheMiddleOnlyWhileLoading();
     void productWarning();
+    void warningFollowsTheLanguage();
     void closeAppQuitsAndTellsTheRunningPrograms();
 };
 
@@ -183,6 +185,19 @@ void TestLoadingView::productWarning()
     QVERIFY(view.btn_OK->isVisible());
     view.isProductWarning(false);
     QVERIFY(!view.label_Warning->isVisible());
+}
+
+void TestLoadingView::warningFollowsTheLanguage()
+{
+    Loading_View view;
+    QTranslator german;
+    QVERIFY(german.load(QStringLiteral(":/QXRGBMemory/NORVALEX_de.qm")));
+    QCoreApplication::installTranslator(&german);
+    QTRY_COMPARE(view.label_Warning_Content->text(),
+                 QStringLiteral("Kein NORVALEX-Speichermodul gefunden"));
+    QCOMPARE(view.btn_OK->text(), QStringLiteral("OK"));
+    QCoreApplication::removeTranslator(&german);
+    QTRY_COMPARE(view.label_Warning_Content->text(), QStringLiteral("Can not Find QX NORVALEX"));
 }
 
 void TestLoadingView::closeAppQuitsAndTellsTheRunningPrograms()

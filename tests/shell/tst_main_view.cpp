@@ -99,6 +99,7 @@ private slots:
     void slotNumbers();
     void relaysReachPagesAndController();
     void languageChange();
+    void menuTextsFitInEveryLanguage();
     void updateViewDataAsksForTheVisiblePage();
     void raiseMessageBringsTheWindowBack();
     void messagesStopWithTheFrame();
@@ -618,14 +619,27 @@ void TestMainView::languageChange()
     QCOMPARE(frame->btn_Lighting->text(), QStringLiteral("Beleuchtung"));
     QCOMPARE(frame->btn_Noti->text(), QStringLiteral("Hinweise"));
     QCOMPARE(frame->btn_Setting->text(), QStringLiteral("Einstellungen"));
-    QCOMPARE(pageLabel(frame->information_View, "label_Dashboard")->text(),
-             QStringLiteral("Auslastung"));
+    QCOMPARE(pageLabel(frame->information_View, "label_Dashboard")->text(), QStringLiteral("Last"));
     QCOMPARE(frame->clean_View->label_Clean->text(), QStringLiteral("Bereinigen"));
+}
 
-    // Every menu text fits the visible part of its button.
-    for (QAbstractButton* button : frame->buttonGroup_Menu->buttons()) {
-        const int textWidth = button->fontMetrics().horizontalAdvance(button->text());
-        QVERIFY2(textWidth < frame->widget_Menu->width(), qPrintable(button->text()));
+void TestMainView::menuTextsFitInEveryLanguage()
+{
+    frame->show();
+    const char* const codes[] = {"en", "zh", "cn", "de", "fr", "jp", "th", "ru", "kr", "es"};
+    translator = std::make_unique<QTranslator>();
+    for (const char* code : codes) {
+        QVERIFY(translator->load(QStringLiteral(":/QXRGBMemory/NORVALEX_") +
+                                 QString::fromLatin1(code) + QStringLiteral(".qm")));
+        QCoreApplication::installTranslator(translator.get());
+        frame->updateLanguage_MainView();
+        // The buttons are wider than the menu column; the text must fit the visible part.
+        for (QAbstractButton* button : frame->buttonGroup_Menu->buttons()) {
+            const int textWidth = button->fontMetrics().horizontalAdvance(button->text());
+            QVERIFY2(textWidth < frame->widget_Menu->width(),
+                     qPrintable(QString::fromLatin1(code) + QLatin1Char(' ') + button->text()));
+        }
+        QCoreApplication::removeTranslator(translator.get());
     }
 }
 

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Load</source>
-        <translation>Auslastung</translation>
+        <translation>Last</translation>
     </message>
     <message>
         <source>Low</source>

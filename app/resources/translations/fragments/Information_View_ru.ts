@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>Low</source>
-        <translation>Низкая</translation>
+        <translation>Мин.</translation>
     </message>
     <message>
         <source>High</source>
-        <translation>Высокая</translation>
+        <translation>Макс.</translation>
     </message>
 </context>
 </TS>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Load</source>
-        <translation>โหลด</translation>
+        <translation>ภาระ</translation>
     </message>
     <message>
         <source>Low</source>
