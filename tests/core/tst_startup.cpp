@@ -60,6 +60,7 @@ private slots:
     void terminalAnswers();
     void secondInstanceExitsAndSignalsTheFirst();
     void secondInstanceDoesNotHangOnBusyFirst();
+    void runningPanelQuitsOnMessage();
 
 private:
     QString iniPath() const { return Startup::dataDirectory() + "/ModuleDevice.ini"; }
@@ -237,6 +238,28 @@ void tst_Startup::secondInstanceDoesNotHangOnBusyFirst()
 
     Platform::stopListening(listener);
     Platform::closeHandle(first);
+}
+
+void tst_Startup::runningPanelQuitsOnMessage()
+{
+    QProcess panel;
+    panel.setProcessEnvironment(childEnvironment());
+    panel.start(panelPath(), QStringList());
+    QVERIFY(panel.waitForStarted(5000));
+    // The panel holds its instance lock and answers under its controller's title.
+    QTRY_VERIFY_WITH_TIMEOUT(Platform::findWindow(L"NORVALEX") != 0, 10000);
+    QVERIFY(Platform::mutexExists(L"NORVALEX RGB.exe"));
+    Platform::sendMessage(Platform::findWindow(L"NORVALEX"), 0x8301, 1, 1);
+    QVERIFY(panel.waitForFinished(10000));
+    QCOMPARE(panel.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(panel.exitCode(), 0);
+    QVERIFY(!Platform::mutexExists(L"NORVALEX RGB.exe"));
+
+    // The panel started the control service beside it; it keeps running until told to quit.
+    if (Platform::mutexExists(L"NORVALEX Control.exe")) {
+        Platform::sendMessage(Platform::findWindow(L"NORVALEX RGB Control"), 0x8301, 1, 1);
+        QTRY_VERIFY_WITH_TIMEOUT(!Platform::mutexExists(L"NORVALEX Control.exe"), 10000);
+    }
 }
 
 QTEST_MAIN(tst_Startup)
