@@ -325,6 +325,7 @@ void Main_View::slot_show_Info()
         qDebug() << "information_View";
     }
     information_View->show();
+    btn_Info->setChecked(true);
     information_View->slotsView()->resetSlotButtons(slotCount);
     placeMenuBar();
 }
@@ -340,6 +341,7 @@ void Main_View::slot_show_Lighting()
         qDebug() << "lighting_View";
     }
     lighting_View->show();
+    btn_Lighting->setChecked(true);
     lighting_View->setMemorySlots(slotCount, memoryCount);
     emit requestSetSlotNum();
     emit requestSetLEDNum();
@@ -361,6 +363,7 @@ void Main_View::slot_show_Noti()
         qDebug() << "noti_View";
     }
     noti_View->show();
+    btn_Noti->setChecked(true);
     emit requestNotiData();
     emit updateLanguage();
     placeMenuBar();
@@ -390,6 +393,7 @@ void Main_View::slot_show_Setting()
         qDebug() << "setting_View";
     }
     setting_View->show();
+    btn_Setting->setChecked(true);
     emit requestSettingData();
     placeMenuBar();
 }

@@ -277,6 +277,14 @@ void TestMainView::menuSwitchesPagesAndCreatesEachOnce()
     QVERIFY(setting->isHidden());
     frame->slot_show_Menu();
 
+    // Pages shown by code are marked in the menu too, with the accent bar beside the entry.
+    frame->slot_show_Noti();
+    QVERIFY(frame->btn_Noti->isChecked());
+    const QRect entry(frame->btn_Noti->mapTo(frame.get(), QPoint()), frame->btn_Noti->size());
+    QVERIFY(frame->label_MenuBar_Image->isVisible());
+    QCOMPARE(frame->label_MenuBar_Image->geometry().center().y(), entry.center().y());
+    QVERIFY(frame->label_MenuBar_Image->geometry().right() < entry.left());
+
     QCOMPARE(frame->findChildren<Information_View*>().size(), 1);
     QCOMPARE(frame->findChildren<Noti_View*>().size(), 1);
     QCOMPARE(frame->findChildren<Setting_View*>().size(), 1);
