@@ -1,6 +1,7 @@
 #include "Lighting_View.h"
 
 #include "AppGlobals.h"
+#include "ChannelValidator.h"
 #include "LedAreaSelection.h"
 #include "LightModeTable.h"
 #include "Memory_RGB_View.h"
@@ -15,7 +16,6 @@
 #include <QDebug>
 #include <QEvent>
 #include <QGridLayout>
-#include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -524,7 +524,7 @@ void Lighting_View::createColorControls(QWidget* deck)
 
         QLineEdit* edit = new QLineEdit(QString::number(initial[c]), deck);
         edit->setObjectName(QStringLiteral("lineEdit_%1_Value").arg(channel));
-        edit->setValidator(new QIntValidator(0, kChannelMax, edit));
+        edit->setValidator(new ChannelValidator(0, kChannelMax, edit));
         edit->setAlignment(Qt::AlignCenter);
         edit->setStyleSheet(styled(kChannelEditStyle, edit->objectName(), color));
         edit->setGeometry(QRect(QPoint(left + kRgbEditX, top), kRgbEditSize));

@@ -168,6 +168,97 @@ private:
     }
 };
 
+// Stands in for the controller: connected directly to the page's request signals, it copies
+// what the pointers point at while the signal runs and keeps one line per request, in order.
+class Recorder
+{
+public:
+    explicit Recorder(Lighting_View* page)
+    {
+        const auto direct = Qt::DirectConnection;
+        QObject::connect(
+            page, &Lighting_View::changeColor, &context,
+            [this](int slot, COLORREF* leds, COLORREF single, float* brights, float singleBright) {
+                Colors c{slot, {}, single, {}, singleBright};
+                std::copy(leds, leds + 8, c.leds);
+                std::copy(brights, brights + 8, c.brights);
+                colors << c;
+                log << QStringLiteral("changeColor %1").arg(slot);
+            },
+            direct);
+        QObject::connect(
+            page, &Lighting_View::changeLightMode, &context,
+            [this](int slot, int mode, int colorMode, int speed, bool off) {
+                log << QStringLiteral("changeLightMode %1 %2 %3 %4 %5")
+                           .arg(slot)
+                           .arg(mode)
+                           .arg(colorMode)
+                           .arg(speed)
+                           .arg(off ? QStringLiteral("off") : QStringLiteral("on"));
+            },
+            direct);
+        QObject::connect(
+            page, &Lighting_View::changeBright, &context,
+            [this](float bright) { log << QStringLiteral("changeBright %1").arg(bright); }, direct);
+        QObject::connect(
+            page, &Lighting_View::changeColorMode, &context,
+            [this](int slot, int mode) {
+                log << QStringLiteral("changeColorMode %1 %2").arg(slot).arg(mode);
+            },
+            direct);
+        QObject::connect(
+            page, &Lighting_View::sendDefault, &context,
+            [this]() { log << QStringLiteral("sendDefault"); }, direct);
+        QObject::connect(
+            page, &Lighting_View::changeMemorySlotNumber, &context,
+            [this](int count, int* order) {
+                QStringList columns;
+                for (int i = 0; i < count; ++i)
+                    columns << QString::number(order[i]);
+                log << QStringLiteral("changeMemorySlotNumber %1 %2")
+                           .arg(count)
+                           .arg(columns.join(QLatin1Char(',')));
+            },
+            direct);
+        QObject::connect(
+            page, &Lighting_View::select_Profile, &context,
+            [this](int profile) { log << QStringLiteral("select_Profile %1").arg(profile); },
+            direct);
+        QObject::connect(
+            page, &Lighting_View::pressRGB, &context,
+            [this](COLORREF color) {
+                log << QStringLiteral("pressRGB %1").arg(color, 6, 16, QLatin1Char('0'));
+            },
+            direct);
+    }
+
+    // Lines of one request, in order.
+    QStringList only(const QString& request) const
+    {
+        QStringList lines;
+        for (const QString& line : log) {
+            if (line.section(QLatin1Char(' '), 0, 0) == request)
+                lines << line;
+        }
+        return lines;
+    }
+
+    struct Colors {
+        int slot;
+        COLORREF leds[8];
+        COLORREF single;
+        float brights[8];
+        float singleBright;
+    };
+
+    QStringList log;
+    QList<Colors> colors;
+
+private:
+    // Receiver of the connections: they end with the recorder.
+    QObject context;
+};
+
 // Visible item texts of a combo, without the hidden empty item.
 inline QStringList visibleItems(QComboBox* combo)
 {

@@ -165,8 +165,9 @@ void tst_LightingRules::ruleTable()
     QCOMPARE(f.child(QStringLiteral("slider_Light"))->isEnabled(), brightness);
 
     auto* speedBox = f.child<QComboBox>(QStringLiteral("comboBox_LightSpeed"));
-    QCOMPARE(visibleItems(speedBox), (QStringList{QStringLiteral("Extreme"), QStringLiteral("Fast"),
-                                                 QStringLiteral("Normal"), QStringLiteral("Slow")}));
+    QCOMPARE(visibleItems(speedBox),
+             (QStringList{QStringLiteral("Extreme"), QStringLiteral("Fast"),
+                          QStringLiteral("Normal"), QStringLiteral("Slow")}));
     QCOMPARE(speedBox->count(), 5);
     QVERIFY(speedBox->itemText(4).isEmpty());
     if (speedFixed) {
@@ -268,7 +269,8 @@ void tst_LightingRules::newModesNeedNewerModules()
     f.load(8, 8, 8, 15, 0, 1);
     auto* modeButton = f.child<QPushButton>(QStringLiteral("btn_LightMode"));
     for (QPushButton* button : modeList(f)->findChildren<QPushButton*>())
-        QVERIFY(button->text() != QLatin1String("Radiation") && button->text() != QLatin1String("Aim"));
+        QVERIFY(button->text() != QLatin1String("Radiation") &&
+                button->text() != QLatin1String("Aim"));
 
     f.page->setLighting(0, 36, 1, 1, false);
     QVERIFY(modeButton->text().isEmpty());
