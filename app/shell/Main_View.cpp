@@ -33,7 +33,10 @@ namespace {
 constexpr int kFrameWidth = 1000;
 constexpr int kFrameHeight = 600;
 const char* const kWindowTitle = "NORVALEX RGB";
+#ifndef Q_OS_WIN
+// The title under which the platform layer delivers this window's messages.
 const wchar_t* const kMessageWindowTitle = L"NORVALEX RGB";
+#endif
 const char* const kBackgroundImage = ":/QXRGBMemory/Images/Main_BG.png";
 
 constexpr int kLogoWidth = 146;
