@@ -91,7 +91,7 @@ void ClientConnection::handleFrame(const nxproto::Frame& frame)
         refuse(nxproto::requestSeq(frame), nxproto::ErrorCode::BadPayload, error);
         return;
     }
-    lastSeq_ = request.seq;
+    raiseLastSeq(request.seq);
     handler_(*this, request);
 }
 

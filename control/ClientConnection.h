@@ -25,8 +25,15 @@ public:
     ~ClientConnection() override;
 
     int id() const { return id_; }
-    // The seq of the latest request taken from this client.
+    // The highest seq taken from this client: what a state sent to it acknowledges.
     uint32_t lastSeq() const { return lastSeq_; }
+    void raiseLastSeq(uint32_t seq) { lastSeq_ = seq > lastSeq_ ? seq : lastSeq_; }
+    // The identity announced by Hello, 0 for an anonymous client.
+    uint64_t clientId() const { return clientId_; }
+    void setClientId(uint64_t id) { clientId_ = id; }
+    // Owed a state that acknowledges its latest requests.
+    bool needsAck() const { return needsAck_; }
+    void setNeedsAck(bool on) { needsAck_ = on; }
     bool wantsPreview() const { return wantsPreview_; }
     void setWantsPreview(bool on) { wantsPreview_ = on; }
 
@@ -46,6 +53,8 @@ private:
     RequestHandler handler_;
     nxproto::FrameDecoder decoder_;
     uint32_t lastSeq_ = 0;
+    uint64_t clientId_ = 0;
+    bool needsAck_ = false;
     bool wantsPreview_ = false;
     bool closing_ = false;
     int loggedFaults_ = 0;

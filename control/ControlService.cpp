@@ -75,16 +75,34 @@ void ControlService::stop()
 
 void ControlService::handleRequest(ClientConnection& client, const nxproto::Request& request)
 {
-    if (request.type == nxproto::MessageType::SetPreview) {
+    switch (request.type) {
+    case nxproto::MessageType::Hello:
+        if (appliedSeqs_.size() >= kMaxKnownClients)
+            appliedSeqs_.clear();
+        client.setClientId(request.clientId);
+        client.raiseLastSeq(appliedSeqs_[request.clientId]);
+        client.setNeedsAck(true);
+        scheduleBroadcast();
+        return;
+    case nxproto::MessageType::SetPreview:
         client.setWantsPreview(request.preview);
         return;
+    default:
+        break;
+    }
+    if (client.clientId() != 0) {
+        uint32_t& applied = appliedSeqs_[client.clientId()];
+        if (request.seq <= applied) {
+            client.setNeedsAck(true);
+            scheduleBroadcast();
+            return;
+        }
+        applied = request.seq;
     }
     const uint32_t changes = nxproto::applyRequest(state_, request);
-    if (changes == 0)
-        return;
     pendingChanges_ |= changes;
-    if (!broadcastTimer_.isActive())
-        broadcastTimer_.start();
+    client.setNeedsAck(true);
+    scheduleBroadcast();
     scheduleSave();
 }
 
@@ -98,6 +116,12 @@ void ControlService::welcome(ClientConnection* client)
     client->send(nxproto::encodeHardware(monitor_->info()));
 }
 
+void ControlService::scheduleBroadcast()
+{
+    if (!broadcastTimer_.isActive())
+        broadcastTimer_.start();
+}
+
 void ControlService::broadcastState()
 {
     nxproto::StateMessage message;
@@ -106,6 +130,10 @@ void ControlService::broadcastState()
     pendingChanges_ = 0;
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
+        // A change goes to everyone; a bare acknowledgement only to whom it is owed.
+        if (message.changes == 0 && !client->needsAck())
+            continue;
+        client->setNeedsAck(false);
         message.ackSeq = client->lastSeq();
         client->send(nxproto::encodeState(message));
     }

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <unordered_map>
 
 // The control service: owns the lighting state, applies the clients' requests, pushes every
 // change to all clients, renders the LEDs at the frame rate and keeps the state on disk.
@@ -22,6 +23,7 @@ class ControlService : public QObject
 public:
     static constexpr int kFrameIntervalMs = 33;
     static constexpr int kSaveDelayMs = 200;
+    static constexpr std::size_t kMaxKnownClients = 1024;
 
     ControlService(const ServiceOptions& options, const QString& statePath,
                    const QString& socketPath, QObject* parent = nullptr);
@@ -38,6 +40,7 @@ public:
 private:
     void handleRequest(ClientConnection& client, const nxproto::Request& request);
     void welcome(ClientConnection* client);
+    void scheduleBroadcast();
     void broadcastState();
     void broadcastHardware();
     void renderFrame();
@@ -54,6 +57,9 @@ private:
     ControlServer server_;
 
     uint32_t pendingChanges_ = 0;
+    // Per identified client, the highest seq applied: a request at or below it is a repeat
+    // after a reconnection, or a late one from a connection already replaced.
+    std::unordered_map<uint64_t, uint32_t> appliedSeqs_;
     QTimer broadcastTimer_;
     QTimer saveTimer_;
     bool dirty_ = false;

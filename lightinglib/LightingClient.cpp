@@ -10,11 +10,16 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
+#include <random>
 
 namespace {
 
 constexpr std::size_t kMaxPending = 512;
+// A service that stops reading loses the connection rather than growing the queue; the
+// pending requests go out again after reconnecting.
+constexpr std::size_t kMaxOutboxBytes = 1024 * 1024;
 constexpr int kFirstRetryMs = 50;
 constexpr int kMaxRetryMs = 500;
 constexpr int kIdlePollMs = 1000;
@@ -38,6 +43,15 @@ nxproto::ControlState initialState()
     return state;
 }
 
+uint64_t newClientId()
+{
+    std::random_device device;
+    uint64_t id = (uint64_t(device()) << 32) ^ device() ^
+                  uint64_t(std::chrono::steady_clock::now().time_since_epoch().count()) ^
+                  (uint64_t(getpid()) << 16);
+    return id != 0 ? id : 1;
+}
+
 } // namespace
 
 LightingClient& LightingClient::instance()
@@ -46,7 +60,8 @@ LightingClient& LightingClient::instance()
     return client;
 }
 
-LightingClient::LightingClient() : state_(initialState()), confirmed_(state_)
+LightingClient::LightingClient()
+    : state_(initialState()), confirmed_(state_), clientId_(newClientId())
 {
     record_ = nxproto::defaultHWData();
     int fds[2];
@@ -221,8 +236,13 @@ bool LightingClient::connectToService()
     std::lock_guard<std::mutex> lock(mutex_);
     socket_ = fd;
     outbox_.clear();
-    // Whatever the service has not acknowledged is sent again; the requests set absolute
-    // values, so a repeat does no harm.
+    // The identity first (with no seq of its own), so that the service skips what it has
+    // already applied of the requests that follow: whatever it has not acknowledged is sent
+    // again.
+    nxproto::Request hello;
+    hello.type = nxproto::MessageType::Hello;
+    hello.clientId = clientId_;
+    queueLocked(nxproto::encodeRequest(hello));
     for (const nxproto::Request& request : pending_)
         queueLocked(nxproto::encodeRequest(request));
     if (previewCallback_.load()) {
@@ -288,7 +308,9 @@ void LightingClient::handleFrame(const nxproto::Frame& frame)
                 pending_.pop_front();
             rebuildLocked();
         }
-        if (UIEventLightModeFunc callback = lightModeCallback_.load())
+        // A bare acknowledgement changed nothing.
+        UIEventLightModeFunc callback = lightModeCallback_.load();
+        if (callback && message.changes != 0)
             callback(static_cast<int32_t>(message.changes));
         return;
     }
@@ -342,6 +364,12 @@ void LightingClient::rebuildLocked()
 
 void LightingClient::queueLocked(const std::vector<uint8_t>& bytes)
 {
+    if (outbox_.size() + bytes.size() > kMaxOutboxBytes) {
+        outbox_.clear();
+        ::shutdown(socket_, SHUT_RDWR);
+        wake();
+        return;
+    }
     const bool wasEmpty = outbox_.empty();
     outbox_.insert(outbox_.end(), bytes.begin(), bytes.end());
     flushLocked();

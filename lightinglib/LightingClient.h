@@ -74,6 +74,7 @@ private:
     COLORREF software_[nxproto::kSlotCount][nxproto::kLedCount] = {};
     std::deque<nxproto::Request> pending_;
     uint32_t nextSeq_ = 1;
+    const uint64_t clientId_;
     std::vector<uint8_t> outbox_;
     int socket_ = -1;
 

@@ -139,6 +139,10 @@ std::vector<uint8_t> encodeRequest(const Request& request)
     ByteWriter out(payload);
     out.u32(request.seq);
     switch (request.type) {
+    case MessageType::Hello:
+        out.u32(static_cast<uint32_t>(request.clientId));
+        out.u32(static_cast<uint32_t>(request.clientId >> 32));
+        break;
     case MessageType::SetLighting:
         out.i32(request.slot);
         out.i32(request.lightMode);
@@ -188,6 +192,12 @@ bool decodeRequest(const Frame& frame, Request& request, std::string* error)
     ByteReader in(frame.payload.data(), frame.payload.size());
     request.seq = in.u32();
     switch (request.type) {
+    case MessageType::Hello: {
+        const uint64_t low = in.u32();
+        const uint64_t high = in.u32();
+        request.clientId = low | (high << 32);
+        break;
+    }
     case MessageType::SetLighting:
         request.slot = in.i32();
         request.lightMode = in.i32();

@@ -20,8 +20,9 @@ bool validBrightness(float value)
 
 bool isRequestType(uint16_t type)
 {
-    return type >= static_cast<uint16_t>(MessageType::SetLighting) &&
-           type <= static_cast<uint16_t>(MessageType::SetPreview);
+    return type == static_cast<uint16_t>(MessageType::Hello) ||
+           (type >= static_cast<uint16_t>(MessageType::SetLighting) &&
+            type <= static_cast<uint16_t>(MessageType::SetPreview));
 }
 
 std::string validateRequest(const Request& request)
@@ -61,6 +62,8 @@ std::string validateRequest(const Request& request)
         if (!inRange(request.profile, 0, kProfileCount - 1))
             return "profile out of range";
         return {};
+    case MessageType::Hello:
+        return request.clientId != 0 ? std::string() : "client identity missing";
     case MessageType::SetNotification:
     case MessageType::SetSetting:
     case MessageType::SetPreview:

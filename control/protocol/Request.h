@@ -16,6 +16,7 @@ constexpr int kMaxLightSpeed = 3;
 
 enum class MessageType : uint16_t {
     // client to service
+    Hello = 0x0001, // names the client, so that its requests apply once across reconnections
     SetLighting = 0x0010,
     SetColors = 0x0011,
     SetSlotOrder = 0x0012,
@@ -57,6 +58,8 @@ struct Request {
     SettingData setting = {};
     // SetPreview
     bool preview = false;
+    // Hello: a random identity, kept for the life of the client; its seqs only grow
+    uint64_t clientId = 0;
 };
 
 // Empty when the request may be applied, else why not.

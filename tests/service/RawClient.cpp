@@ -19,9 +19,9 @@ void RawClient::sendBytes(const std::vector<uint8_t>& bytes)
     sendBytes(QByteArray(reinterpret_cast<const char*>(bytes.data()), int(bytes.size())));
 }
 
-uint32_t RawClient::send(nxproto::Request request)
+uint32_t RawClient::send(nxproto::Request request, uint32_t seq)
 {
-    request.seq = nextSeq_++;
+    request.seq = seq != 0 ? seq : nextSeq_++;
     sendBytes(nxproto::encodeRequest(request));
     return request.seq;
 }

@@ -17,8 +17,9 @@ public:
     bool connectTo(const QString& path, int timeoutMs = 2000);
     void sendBytes(const QByteArray& bytes);
     void sendBytes(const std::vector<uint8_t>& bytes);
-    // Gives the request the next seq of this client and returns it.
-    uint32_t send(nxproto::Request request);
+    // Sends the request with `seq`, or with the next seq of this client when it is 0, and
+    // returns the seq used.
+    uint32_t send(nxproto::Request request, uint32_t seq = 0);
 
     // Waits for the next frame of `type`, dropping others. False on timeout or disconnection.
     bool waitFor(nxproto::MessageType type, nxproto::Frame* frame, int timeoutMs = 2000);

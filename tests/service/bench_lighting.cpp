@@ -174,7 +174,7 @@ void BM_RenderFrame(benchmark::State& state)
 }
 BENCHMARK(BM_RenderFrame);
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv)
 {

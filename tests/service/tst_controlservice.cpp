@@ -83,6 +83,7 @@ private slots:
     void malformedFramesChangeNothing();
     void mutatedFramesNeverCrashIt();
     void clientsShareOneState();
+    void repeatedRequestsApplyOnce();
     void reportsConfiguredModules();
     void previewFollowsTheFrameRate();
 
@@ -412,6 +413,53 @@ void TestControlService::clientsShareOneState()
     QCOMPARE(seenByA.state.profile, 3);
     QCOMPARE(seenByA.state.module(6).lightMode, 5); // profile 3 untouched so far
     QVERIFY(seenByA.state == seenByB.state);
+}
+
+void TestControlService::repeatedRequestsApplyOnce()
+{
+    QVERIFY(service_->start());
+    Request hello;
+    hello.type = MessageType::Hello;
+    hello.clientId = 0x1234567890ABCDEFull;
+
+    RawClient first;
+    connectAndReadState(first);
+    first.send(hello, 0);
+    first.send(lighting(0, 10), 5);
+    StateMessage state;
+    QVERIFY(first.waitForState(&state, 5));
+    QCOMPARE(state.state.module(0).lightMode, 10);
+
+    // The same client after a reconnection: its repeat and a late older request are
+    // acknowledged but not applied again, a newer one is.
+    RawClient second;
+    connectAndReadState(second);
+    second.send(hello, 0);
+    QVERIFY(second.waitForState(&state, 5));
+    QCOMPARE(state.changes, 0u);
+    second.send(lighting(0, 20), 5);
+    second.send(lighting(0, 30), 4);
+    second.send(lighting(1, 12), 6);
+    QVERIFY(second.waitForState(&state, 6));
+    QCOMPARE(state.state.module(0).lightMode, 10);
+    QCOMPARE(state.state.module(1).lightMode, 12);
+
+    // Anonymous clients are taken as they come.
+    RawClient anonymous;
+    connectAndReadState(anonymous);
+    anonymous.send(lighting(0, 21), 5);
+    anonymous.send(lighting(0, 22), 5);
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            return anonymous.waitForState(&state, 5, 100) && state.state.module(0).lightMode == 22;
+        },
+        2000));
+
+    Request noIdentity;
+    noIdentity.type = MessageType::Hello;
+    anonymous.send(noIdentity);
+    Frame reply;
+    QVERIFY(anonymous.waitFor(MessageType::Error, &reply));
 }
 
 void TestControlService::reportsConfiguredModules()

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <csignal>
 #include <cstring>
 
 using namespace nxproto;
@@ -61,6 +62,7 @@ private slots:
     void keepsEveryChoiceAcrossRestarts();
     void profilesAreWholeCopies();
     void secondClientSharesTheState();
+    void settersStayFastWhileTheServiceHangs();
     void previewEventsFollowTheFrameRate();
     void plainCProgramReadsHardware();
     void fullRefreshTakesWellUnderAMillisecond();
@@ -319,6 +321,38 @@ void TestLightingLibrary::secondClientSharesTheState()
         [&] { return other.waitForState(&state, 0, 100) && state.state.slotOrder[4] == 7; }, 3000));
     QCOMPARE(state.changes & ChangeSlotOrder, uint32_t(ChangeSlotOrder));
     QVERIFY(!callbackOnGuiThread);
+}
+
+void TestLightingLibrary::settersStayFastWhileTheServiceHangs()
+{
+    // A stopped service reads nothing: the socket fills, then the library gives the
+    // connection up instead of queueing without bound, and catches up after reconnecting.
+    QCOMPARE(::kill(pid_t(service_->pid()), SIGSTOP), 0);
+    COLORREF colors[12] = {};
+    float bright[12] = {};
+    qint64 slowest = 0;
+    for (int i = 0; i < 20000; ++i) {
+        std::fill(std::begin(colors), std::end(colors), COLORREF(i));
+        std::fill(std::begin(bright), std::end(bright), float(i % 100) / 100.0f);
+        QElapsedTimer call;
+        call.start();
+        api_.SetValueRGB(4, colors, bright, COLORREF(i), 1.0f, 8);
+        slowest = qMax(slowest, call.nsecsElapsed());
+    }
+    QCOMPARE(api_.GetValueRGB(4)[0], COLORREF(19999));
+    QCOMPARE(::kill(pid_t(service_->pid()), SIGCONT), 0);
+    QVERIFY2(slowest < 50'000'000, qPrintable(QString::number(slowest)));
+
+    StateMessage state;
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            RawClient probe;
+            return probe.connectTo(service_->socketPath()) && probe.waitForState(&state) &&
+                   state.state.module(4).rgb[7] == 19999;
+        },
+        5000));
+    QCOMPARE(state.state.module(4).bright[0], 0.99f);
+    QTRY_COMPARE(api_.GetValueRGB(4)[0], COLORREF(19999));
 }
 
 void TestLightingLibrary::previewEventsFollowTheFrameRate()

@@ -182,6 +182,15 @@ void TestProtocol::requestsRoundTripWithEveryField()
     QCOMPARE(decoded.order[0], 7);
     QCOMPARE(decoded.order[7], 0);
 
+    Request hello;
+    hello.type = MessageType::Hello;
+    hello.clientId = 0xFEDCBA9876543210ull;
+    QVERIFY(decodeOne(encodeRequest(hello), &frame));
+    QVERIFY(decodeRequest(frame, decoded, nullptr));
+    QCOMPARE(decoded.clientId, hello.clientId);
+    hello.clientId = 0;
+    QCOMPARE(refusal(hello), std::string("client identity missing"));
+
     Request setting;
     setting.type = MessageType::SetSetting;
     setting.setting = SettingData{9, false, true, true, 0xAB};
