@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -34,6 +35,7 @@ StateFile::LoadResult StateFile::load(nxproto::ControlState* state, SimulationCo
 {
     *state = nxproto::defaultControlState();
     *simulation = SimulationConfig{};
+    removeLeftovers();
     QFile file(path_);
     if (!file.exists())
         return LoadResult::Missing;
@@ -77,6 +79,19 @@ bool StateFile::save(const nxproto::ControlState& state, const SimulationConfig&
         return false;
     }
     return true;
+}
+
+void StateFile::removeLeftovers()
+{
+    // QSaveFile writes to "<name>.XXXXXX" beside the file and renames it on commit.
+    const QFileInfo info(path_);
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern(
+        QRegularExpression::escape(info.fileName()) + QStringLiteral("\\.[A-Za-z0-9]{6}")));
+    const QStringList names = info.dir().entryList(QDir::Files | QDir::Hidden);
+    for (const QString& name : names) {
+        if (pattern.match(name).hasMatch() && info.dir().remove(name))
+            qCInfo(lcStateFile).noquote() << "removed an interrupted save:" << name;
+    }
 }
 
 void StateFile::setAside(const QString& reason)

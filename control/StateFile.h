@@ -28,6 +28,8 @@ public:
 
 private:
     void setAside(const QString& reason);
+    // Temporary files of saves that a kill interrupted.
+    void removeLeftovers();
 
     QString path_;
     QString setAsidePath_;

@@ -281,6 +281,21 @@ void TestControlCore::stateFileSetsUnusableFilesAside()
     }
     QCOMPARE(QDir(dir.filePath(QStringLiteral("sub"))).entryList(QDir::Files).size(),
              int(std::size(unusable)));
+
+    // A save cut short by a kill leaves its temporary file; the next start removes it and
+    // nothing else.
+    QVERIFY(file.save(state, simulation));
+    for (const char* name : {"state.json.Ab12Cd", "state.json.notes", "other.json.Ab12Cd"}) {
+        QFile leftover(dir.filePath(QStringLiteral("sub/") + QLatin1String(name)));
+        QVERIFY(leftover.open(QIODevice::WriteOnly));
+        leftover.write("{\"format\"");
+    }
+    QCOMPARE(file.load(&loaded, &loadedSimulation), StateFile::LoadResult::Loaded);
+    const QStringList names = QDir(dir.filePath(QStringLiteral("sub"))).entryList(QDir::Files);
+    QVERIFY(!names.contains(QStringLiteral("state.json.Ab12Cd")));
+    QVERIFY(names.contains(QStringLiteral("state.json.notes")));
+    QVERIFY(names.contains(QStringLiteral("other.json.Ab12Cd")));
+    QVERIFY(names.contains(QStringLiteral("state.json")));
 }
 
 void TestControlCore::hardwareIsConsistentWithTheModuleCount()
