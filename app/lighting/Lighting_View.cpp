@@ -83,6 +83,9 @@ constexpr QRect kSpeedLabelRect(20, 130, 138, 30);
 constexpr QRect kSpeedComboRect(160, 130, 100, 30);
 constexpr int kUnderlineHeight = 3;
 constexpr int kComboArrowWidth = 16;
+constexpr int kComboFont = 14;
+constexpr int kModeArrowWidth = 14;
+constexpr int kModeArrowRight = 4;
 constexpr QRect kTurnLightLabelRect(20, 185, 138, 30);
 constexpr QRect kSwitchRect(160, 191, 47, 19);
 constexpr QRect kSwitchLabelRect(215, 185, 90, 30);
@@ -92,16 +95,19 @@ constexpr QRect kDefaultRect(530, 125, 130, 40);
 constexpr int kRgbRight = 200;
 constexpr int kRgbTops[] = {55, 90, 125};
 constexpr QSize kRgbLabelSize(25, 25);
+constexpr int kRgbSliderInset = 2;
 constexpr int kRgbSliderX = 28;
 constexpr int kRgbSliderWidth = 118;
 constexpr int kRgbEditX = 152;
 constexpr QSize kRgbEditSize(44, 25);
 constexpr QRect kSwatchRect(kPageWidth - kRgbRight, 14, 196, 28);
+constexpr int kSwatchLightLimit = 150;
 constexpr int kBrightRight = 205;
 constexpr int kBrightBottom = 35;
 constexpr QSize kBrightSize(200, 10);
 constexpr int kBrightLabelHeight = 22;
 constexpr int kBrightLabelGap = 6;
+constexpr int kBrightLabelFont = 14;
 
 // The light-mode list below the light-mode button (page coordinates).
 constexpr QRect kLightModeListRect(20, 372, 660, 180);
@@ -139,7 +145,6 @@ constexpr int kSpeedComboSmall = 12;
 // Profile captions: the Japanese word needs a smaller size to fit the button.
 constexpr int kProfileFont = 12;
 constexpr int kProfileFontSmall = 10;
-constexpr int kSpeedComboNormal = 14;
 
 LanguageFonts fontsForLanguage(int language)
 {
@@ -432,7 +437,8 @@ void Lighting_View::createModeControls(QWidget* deck)
     label_LightModeArrow->setObjectName(QStringLiteral("label_LightModeArrow"));
     label_LightModeArrow->setStyleSheet(QString::fromLatin1(kLightModeArrowStyle));
     label_LightModeArrow->setAlignment(Qt::AlignCenter);
-    label_LightModeArrow->setGeometry(kLightModeRect.width() - 18, 0, 14, kLightModeRect.height());
+    label_LightModeArrow->setGeometry(kLightModeRect.width() - kModeArrowRight - kModeArrowWidth, 0,
+                                      kModeArrowWidth, kLightModeRect.height());
     label_LightModeArrow->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     label_MB_Sync = new QLabel(tr("MB_Sync_Warning_Content"), deck);
@@ -452,7 +458,7 @@ void Lighting_View::createModeControls(QWidget* deck)
     comboBox_ColorMode->setObjectName(QStringLiteral("comboBox_ColorMode"));
     comboBox_ColorMode->setGeometry(kColorModeComboRect);
     comboBox_ColorMode->setStyleSheet(
-        styled(kComboStyle, comboBox_ColorMode->objectName(), QString::number(kSpeedComboNormal)));
+        styled(kComboStyle, comboBox_ColorMode->objectName(), QString::number(kComboFont)));
     for (const QString& key : LightModeTable::colorModeKeys())
         addKeyedItem(comboBox_ColorMode, key);
     addComboArrow(comboBox_ColorMode);
@@ -487,10 +493,10 @@ void Lighting_View::createColorControls(QWidget* deck)
     rgb_Palette->setObjectName(QStringLiteral("rgb_Palette"));
     rgb_Palette->move(kPalettePos);
 
-    auto* swatch = new QLabel(deck);
-    swatch->setObjectName(QStringLiteral("label_ColorSwatch"));
-    swatch->setAlignment(Qt::AlignCenter);
-    swatch->setGeometry(kSwatchRect);
+    label_ColorSwatch = new QLabel(deck);
+    label_ColorSwatch->setObjectName(QStringLiteral("label_ColorSwatch"));
+    label_ColorSwatch->setAlignment(Qt::AlignCenter);
+    label_ColorSwatch->setGeometry(kSwatchRect);
 
     const int left = kDeckRect.width() - kRgbRight;
     const char* const colors[] = {kRed, kGreen, kBlue};
@@ -518,8 +524,8 @@ void Lighting_View::createColorControls(QWidget* deck)
         slider->setPageStep(1);
         slider->setValue(initial[c]);
         slider->setStyleSheet(styled(kChannelSliderStyle, slider->objectName(), color));
-        slider->setGeometry(left + kRgbSliderX, top + 2, kRgbSliderWidth,
-                            kRgbLabelSize.height() - 4);
+        slider->setGeometry(left + kRgbSliderX, top + kRgbSliderInset, kRgbSliderWidth,
+                            kRgbLabelSize.height() - 2 * kRgbSliderInset);
         *sliders[c] = slider;
 
         QLineEdit* edit = new QLineEdit(QString::number(initial[c]), deck);
@@ -535,7 +541,7 @@ void Lighting_View::createColorControls(QWidget* deck)
     label_Brightness = new QLabel(tr("Brightness"), deck);
     label_Brightness->setObjectName(QStringLiteral("label_Brightness"));
     label_Brightness->setStyleSheet(
-        styled(kCaptionStyle, label_Brightness->objectName(), QStringLiteral("14")));
+        styled(kCaptionStyle, label_Brightness->objectName(), QString::number(kBrightLabelFont)));
     const int brightTop = kDeckRect.height() - kBrightBottom;
     label_Brightness->setGeometry(kDeckRect.width() - kBrightRight,
                                   brightTop - kBrightLabelGap - kBrightLabelHeight,
@@ -741,27 +747,28 @@ void Lighting_View::connectControls()
     connect(btn_Edit_Cancel, &QPushButton::released, this, &Lighting_View::slotEdit_Cancel);
 
     // The swatch follows the three channels.
-    auto showSwatch = [this]() {
-        auto* swatch =
-            widget_Lighting_Control->findChild<QLabel*>(QStringLiteral("label_ColorSwatch"));
-        const int r = slider_R_Value->value();
-        const int g = slider_G_Value->value();
-        const int b = slider_B_Value->value();
-        const bool light = (r * 299 + g * 587 + b * 114) / 1000 > 150;
-        swatch->setStyleSheet(QString::fromLatin1(kSwatchStyle)
-                                  .arg(QLatin1String(light ? "black" : "white"))
-                                  .arg(r)
-                                  .arg(g)
-                                  .arg(b));
-        swatch->setText(QStringLiteral("#%1%2%3")
-                            .arg(r, 2, 16, QLatin1Char('0'))
-                            .arg(g, 2, 16, QLatin1Char('0'))
-                            .arg(b, 2, 16, QLatin1Char('0'))
-                            .toUpper());
-    };
-    for (QSlider* slider : {slider_R_Value, slider_G_Value, slider_B_Value})
-        connect(slider, &QSlider::valueChanged, this, showSwatch);
-    showSwatch();
+    for (QSlider* channel : {slider_R_Value, slider_G_Value, slider_B_Value})
+        connect(channel, &QSlider::valueChanged, this, &Lighting_View::showColorSwatch);
+    showColorSwatch();
+}
+
+void Lighting_View::showColorSwatch()
+{
+    const int r = slider_R_Value->value();
+    const int g = slider_G_Value->value();
+    const int b = slider_B_Value->value();
+    // Dark text on light colours, light text on dark ones.
+    const bool light = (r * 299 + g * 587 + b * 114) / 1000 > kSwatchLightLimit;
+    label_ColorSwatch->setStyleSheet(QString::fromLatin1(kSwatchStyle)
+                                         .arg(QLatin1String(light ? "black" : "white"))
+                                         .arg(r)
+                                         .arg(g)
+                                         .arg(b));
+    label_ColorSwatch->setText(QStringLiteral("#%1%2%3")
+                                   .arg(r, 2, 16, QLatin1Char('0'))
+                                   .arg(g, 2, 16, QLatin1Char('0'))
+                                   .arg(b, 2, 16, QLatin1Char('0'))
+                                   .toUpper());
 }
 
 void Lighting_View::applyLanguageFonts()
@@ -774,8 +781,7 @@ void Lighting_View::applyLanguageFonts()
         styled(kCaptionStyle, label_ligheSpeed->objectName(), QString::number(fonts.speedLabel)));
     label_TurnLight->setStyleSheet(styled(kCaptionStyle, label_TurnLight->objectName(),
                                           QString::number(fonts.turnLightLabel)));
-    const int speedCombo =
-        currentLanguage == kLanguageRussian ? kSpeedComboSmall : kSpeedComboNormal;
+    const int speedCombo = currentLanguage == kLanguageRussian ? kSpeedComboSmall : kComboFont;
     comboBox_LightSpeed->setStyleSheet(
         styled(kComboStyle, comboBox_LightSpeed->objectName(), QString::number(speedCombo)));
     const int profileFont = currentLanguage == kLanguageJapanese ? kProfileFontSmall : kProfileFont;

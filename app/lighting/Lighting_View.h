@@ -116,6 +116,7 @@ private:
     void createEditButtons();
     void connectControls();
     void applyLanguageFonts();
+    void showColorSwatch();
 
     // Shared steps.
     bool isEditMode() const;
@@ -190,6 +191,7 @@ private:
     QLineEdit* lineEdit_R_Value = nullptr;
     QLineEdit* lineEdit_G_Value = nullptr;
     QLineEdit* lineEdit_B_Value = nullptr;
+    QLabel* label_ColorSwatch = nullptr;
     RGB_Palette* rgb_Palette = nullptr;
     SwitchButton* switchButton = nullptr;
     QLabel* label_TurnLight = nullptr;
