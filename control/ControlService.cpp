@@ -33,11 +33,6 @@ ControlService::~ControlService()
     stop();
 }
 
-const nxproto::HardwareInfo& ControlService::hardware() const
-{
-    return monitor_->info();
-}
-
 bool ControlService::start(QString* error)
 {
     const StateFile::LoadResult loaded = stateFile_.load(&state_, &storedSimulation_);

@@ -34,7 +34,6 @@ public:
     void stop();
 
     const nxproto::ControlState& state() const { return state_; }
-    const nxproto::HardwareInfo& hardware() const;
     const SimulationConfig& simulation() const { return simulation_; }
 
 private:
