@@ -1362,16 +1362,19 @@ void Lighting_View::slot_setProfile(int profile)
 
 void Lighting_View::slot_R_Value(int value)
 {
+    qDebug() << "Lighting_View::slot_R_Value" << value;
     lineEdit_R_Value->setText(QString::number(value));
 }
 
 void Lighting_View::slot_G_Value(int value)
 {
+    qDebug() << "Lighting_View::slot_G_Value" << value;
     lineEdit_G_Value->setText(QString::number(value));
 }
 
 void Lighting_View::slot_B_Value(int value)
 {
+    qDebug() << "Lighting_View::slot_B_Value" << value;
     lineEdit_B_Value->setText(QString::number(value));
 }
 
@@ -1475,6 +1478,9 @@ void Lighting_View::setMemorySlots(int slotCount, int availableCount)
         if (i < slotCount)
             strip->show();
         strip->setDisable(i < availableCount);
+        // Making a strip available shows all eight LEDs; a known 5-LED module hides its surplus.
+        if (memoryData[i].ledNum == kFiveLeds || memoryData[i].ledNum == kEightLeds)
+            strip->setLEDNumber(memoryData[i].ledNum);
     }
 
     if (slotCount < kFewSlotsLimit) {

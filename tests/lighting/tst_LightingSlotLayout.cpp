@@ -212,6 +212,12 @@ void tst_LightingSlotLayout::ledRows()
     QPushButton* rowH =
         f.buttonWithText(QStringLiteral("btn_SelectHorizontal"), QStringLiteral("H"));
     QCOMPARE(rowH->isHidden(), leds == 5);
+
+    // Laying the slots out again (the frame does so on every visit) keeps 5-LED modules at
+    // five LEDs.
+    f.page->setMemorySlots(slotCount, slotCount);
+    QVERIFY(f.strip(0)->btn_Led[5]->isHidden());
+    QVERIFY(!f.strip(0)->btn_Led[4]->isHidden());
 }
 
 // Entering Edit mode clears every selection and locks the rows and profiles.
