@@ -39,8 +39,11 @@ void ClientConnection::send(const std::vector<uint8_t>& frame)
     if (closing_ || socket_->state() != QLocalSocket::ConnectedState)
         return;
     if (socket_->bytesToWrite() > kMaxQueuedBytes) {
+        // Closing politely would wait for the queue to drain, which it never does.
         qCWarning(lcClient) << "client" << id_ << "does not read; dropping it";
-        close();
+        closing_ = true;
+        socket_->abort();
+        emit closed(this);
         return;
     }
     socket_->write(reinterpret_cast<const char*>(frame.data()), qint64(frame.size()));
