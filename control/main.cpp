@@ -14,6 +14,7 @@
 #include <QMetaObject>
 
 #include <csignal>
+#include <unistd.h>
 #include <cstdio>
 
 namespace {
@@ -40,6 +41,9 @@ int main(int argc, char* argv[])
     qSetMessagePattern(
         QStringLiteral("%{time yyyy-MM-dd hh:mm:ss.zzz} %{type} %{category}: %{message}"));
     std::signal(SIGPIPE, SIG_IGN);
+    // Started by the panel, leave its session: a hang-up or Ctrl-C of the panel's terminal must
+    // not take the lights down. Started by hand as a job leader, it stays in the shell's session.
+    ::setsid();
 
     ServiceOptions options;
     QString message;
