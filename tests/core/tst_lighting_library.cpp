@@ -6,17 +6,58 @@
 
 #include <QtTest>
 
+#include <cstring>
+
 class tst_LightingLibrary : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init() { Double_reset(); }
+    void defaultRecord();
     void missingLibraryAnswersDefaults();
     void partialLibraryMixesRealAndDefaultAnswers();
     void fullLibraryPassesArgumentsThrough();
     void turnOffIsReadAsOneByte();
 };
+
+// What a missing library answers: the default record, field by field.
+void tst_LightingLibrary::defaultRecord()
+{
+    LightingLibrary library;
+    const HWData hw = library.GetValueHWData();
+    QCOMPARE(hw.memoryCount, -1);
+    QCOMPARE(hw.slotCount, 0);
+    QCOMPARE(hw.frequency, -1.0);
+    QCOMPARE(hw.casLatency, -1.0);
+    QCOMPARE(hw.tRCD, -1);
+    QCOMPARE(hw.channel, -1);
+    QCOMPARE(hw.physicalMemoryUsed, -1);
+    QCOMPARE(hw.memoryLoad, -1.0);
+    QCOMPARE(hw.updateTime, 0u);
+    QCOMPARE(QByteArray(hw.systemText), QByteArray("N/A"));
+    const COLORREF defaults[NX_LED_ARRAY] = {0x0000FF, 0x00FFD8, 0x3BFF00, 0xFF6200,
+                                             0xFF00A7, 0x0000FF, 0x00FFD8, 0x3BFF00,
+                                             0xFF6200, 0xFF00A7, 0x0000FF, 0x00FFD8};
+    for (int k = 0; k < NX_MODULE_COUNT; ++k) {
+        const MemoryModuleData& m = hw.memoryData[k];
+        QCOMPARE(hw.slotIndex[k], -1);
+        QVERIFY(m.memorySlot == -1 && m.temperature == -1 && m.memoryModuleSize == -1 &&
+                m.ledNum == -1 && m.reserved288 == -1);
+        QCOMPARE(m.frequency, -1.0);
+        for (const char* text : {m.modelCode, m.type, m.text12, m.text216})
+            QCOMPARE(QByteArray(text), QByteArray("N/A"));
+        QCOMPARE(std::memcmp(m.defaultRGB, defaults, sizeof defaults), 0);
+        QCOMPARE(std::memcmp(m.rgb, defaults, sizeof defaults), 0);
+        QCOMPARE(m.singleRGB, COLORREF(0x0000FF));
+        QCOMPARE(m.singleBright, 1.0f);
+        QVERIFY(m.lightMode == 5 && m.colorMode == 0 && m.lightSpeed == 2 && !m.turnOff);
+        QCOMPARE(reinterpret_cast<const unsigned char*>(&m)[556], static_cast<unsigned char>(0));
+        // Brightness is written by module index: module k has 1.0 at entry k only.
+        for (int led = 0; led < NX_LED_ARRAY; ++led)
+            QCOMPARE(m.bright[led], led == k ? 1.0f : 0.0f);
+    }
+}
 
 void tst_LightingLibrary::missingLibraryAnswersDefaults()
 {
@@ -29,9 +70,6 @@ void tst_LightingLibrary::missingLibraryAnswersDefaults()
     library.SharedDLL_init();
     library.SetValueLighting(0, 6, 1, 2, true);
     library.SetProfile(3);
-    const HWData hw = library.GetValueHWData();
-    QCOMPARE(hw.memoryCount, -1);
-    QCOMPARE(hw.updateTime, 0u);
     QCOMPARE(library.GetValueLightMode(2), 5);
     QCOMPARE(library.GetValueColorMode(2), 0);
     QCOMPARE(library.GetValueLightSpeed(2), 2);
