@@ -29,26 +29,32 @@ RGB_Palette::RGB_Palette(QWidget* parent) : QWidget(parent)
 
 RGB_Palette::~RGB_Palette() = default;
 
-void RGB_Palette::mousePressEvent(QMouseEvent* event)
+bool RGB_Palette::pickColour(const QPoint& click, const QSize& widgetSize, COLORREF* colour)
 {
-    const int x = event->pos().x();
-    const int y = event->pos().y();
-    qDebug() << "RGB_Palette::mousePressEvent" << x << y;
-
-    const int cx = width() / 2;
-    const int cy = height() / 2;
-    const double distance = std::sqrt(double(x - cx) * (x - cx) + double(y - cy) * (y - cy));
-    if (int(distance) > AcceptRadius)
-        return;
-
+    const int cx = widgetSize.width() / 2;
+    const int cy = widgetSize.height() / 2;
+    const double dx = click.x() - cx;
+    const double dy = click.y() - cy;
+    if (int(std::sqrt(dx * dx + dy * dy)) > AcceptRadius)
+        return false;
     const QImage wheel(WheelPicture);
     if (wheel.isNull())
-        return;
+        return false;
     // The accepting disc reaches one pixel beyond the picture; such clicks take the rim pixel.
+    const int px = click.x() - (widgetSize.width() - WheelSize) / 2;
+    const int py = click.y() - (widgetSize.height() - WheelSize) / 2;
     const QRgb pixel =
-        wheel.pixel(std::clamp(x, 0, wheel.width() - 1), std::clamp(y, 0, wheel.height() - 1));
-    const COLORREF color =
-        COLORREF(qRed(pixel)) | COLORREF(qGreen(pixel)) << 8 | COLORREF(qBlue(pixel)) << 16;
-    qDebug() << "取色:" << qRed(pixel) << qGreen(pixel) << qBlue(pixel);
-    emit pressRGB(color);
+        wheel.pixel(std::clamp(px, 0, wheel.width() - 1), std::clamp(py, 0, wheel.height() - 1));
+    *colour = COLORREF(qRed(pixel)) | COLORREF(qGreen(pixel)) << 8 | COLORREF(qBlue(pixel)) << 16;
+    return true;
+}
+
+void RGB_Palette::mousePressEvent(QMouseEvent* event)
+{
+    qDebug() << "RGB_Palette::mousePressEvent" << event->pos().x() << event->pos().y();
+    COLORREF colour = 0;
+    if (!pickColour(event->pos(), size(), &colour))
+        return;
+    qDebug() << "取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF) << ((colour >> 16) & 0xFF);
+    emit pressRGB(colour);
 }

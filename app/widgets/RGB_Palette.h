@@ -16,6 +16,10 @@ public:
     explicit RGB_Palette(QWidget* parent = nullptr);
     ~RGB_Palette() override;
 
+    // The colour of the wheel picture under a click in a widget of the given size, with the
+    // picture centred in it. False when the click lies outside the accepting disc.
+    static bool pickColour(const QPoint& click, const QSize& widgetSize, COLORREF* colour);
+
 signals:
     void pressRGB(COLORREF color);
 

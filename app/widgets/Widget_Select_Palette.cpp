@@ -1,20 +1,16 @@
 #include "Widget_Select_Palette.h"
 
+#include "RGB_Palette.h"
+
 #include <QDebug>
-#include <QImage>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-
-#include <algorithm>
-#include <cmath>
 
 namespace {
 
 constexpr int PanelSize = 200;
 constexpr int WheelSize = 176;
-constexpr int AcceptRadius = 88; // truncated distances up to this one are inside the disc
-const QString WheelPicture = QStringLiteral(":/QXRGBMemory/Images/palette.png");
 const QColor PanelColor(40, 40, 40, 245);
 const QColor PanelBorderColor(20, 20, 20);
 
@@ -37,29 +33,12 @@ Widget_Select_Palette::~Widget_Select_Palette() = default;
 
 void Widget_Select_Palette::mousePressEvent(QMouseEvent* event)
 {
-    const int x = event->pos().x();
-    const int y = event->pos().y();
-    qDebug() << "RGB_Palette::mousePressEvent" << x << y;
-
-    const int cx = width() / 2;
-    const int cy = height() / 2;
-    const double distance = std::sqrt(double(x - cx) * (x - cx) + double(y - cy) * (y - cy));
-    if (int(distance) > AcceptRadius)
+    qDebug() << "RGB_Palette::mousePressEvent" << event->pos().x() << event->pos().y();
+    COLORREF colour = 0;
+    if (!RGB_Palette::pickColour(event->pos(), size(), &colour))
         return;
-
-    const QImage wheel(WheelPicture);
-    if (wheel.isNull())
-        return;
-    // Picture coordinates: the wheel is centred in the panel. The accepting disc reaches one
-    // pixel beyond the picture; such clicks take the rim pixel.
-    const int px = x - (width() - WheelSize) / 2;
-    const int py = y - (height() - WheelSize) / 2;
-    const QRgb pixel =
-        wheel.pixel(std::clamp(px, 0, wheel.width() - 1), std::clamp(py, 0, wheel.height() - 1));
-    const COLORREF color =
-        COLORREF(qRed(pixel)) | COLORREF(qGreen(pixel)) << 8 | COLORREF(qBlue(pixel)) << 16;
-    qDebug() << "弹出色盘取色:" << qRed(pixel) << qGreen(pixel) << qBlue(pixel);
-    emit pressRGB(color);
+    qDebug() << "弹出色盘取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF) << ((colour >> 16) & 0xFF);
+    emit pressRGB(colour);
 }
 
 void Widget_Select_Palette::paintEvent(QPaintEvent* /*event*/)
