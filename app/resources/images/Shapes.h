@@ -1,0 +1,82 @@
+#pragma once
+
+// Drawing shared by several pictures.
+
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+
+namespace Shapes {
+
+// A round switch knob: a halo (glow or shadow) behind a shaded ball lit from the upper left,
+// with a specular highlight.
+struct KnobLook {
+    int size = 19;
+    QColor halo;         // opaque at haloStop, transparent at the image's edge
+    qreal haloStop = 0.6;
+    qreal haloDrop = 0;  // halo shifted down, for a shadow
+    qreal ball = 7.0;
+    QColor light, mid, dark;
+    qreal midStop = 0.5;
+    QPointF lightFrom;   // offset of the light's centre from the ball's
+    qreal spread = 1.6;  // gradient radius in balls
+    QPen outline;
+    QPointF shineAt;
+    qreal shine = 3.2;
+    int shineAlpha = 170;
+};
+
+inline QImage knob(const KnobLook& look)
+{
+    QImage image(look.size, look.size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPointF centre(look.size / 2.0, look.size / 2.0);
+    const qreal edge = look.size / 2.0;
+
+    const QPointF haloCentre = centre + QPointF(0, look.haloDrop);
+    QRadialGradient halo(haloCentre, edge);
+    halo.setColorAt(look.haloStop, look.halo);
+    halo.setColorAt(1.0, QColor(look.halo.red(), look.halo.green(), look.halo.blue(), 0));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(halo);
+    painter.drawEllipse(haloCentre, edge, edge);
+
+    const QPointF lit = centre + look.lightFrom;
+    QRadialGradient body(lit, look.ball * look.spread, lit);
+    body.setColorAt(0.0, look.light);
+    body.setColorAt(look.midStop, look.mid);
+    body.setColorAt(1.0, look.dark);
+    painter.setBrush(body);
+    painter.setPen(look.outline);
+    painter.drawEllipse(centre, look.ball, look.ball);
+
+    const QPointF shineCentre = centre + look.shineAt;
+    QRadialGradient shine(shineCentre, look.shine);
+    shine.setColorAt(0.0, QColor(255, 255, 255, look.shineAlpha));
+    shine.setColorAt(1.0, QColor(255, 255, 255, 0));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shine);
+    painter.drawEllipse(shineCentre, look.shine, look.shine);
+    return image;
+}
+
+// A 14 x 8 drop-down chevron.
+inline QImage chevron(const QColor& colour)
+{
+    QImage image(14, 8, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    QPainterPath path;
+    path.moveTo(2.0, 1.5);
+    path.lineTo(7.0, 6.5);
+    path.lineTo(12.0, 1.5);
+    painter.drawPath(path);
+    return image;
+}
+
+}  // namespace Shapes
