@@ -31,13 +31,16 @@
 
 namespace {
 
-// Page and the control deck below the strips.
+// Page and the control deck below the strips. The frame's menu covers the page's left kOffsetX
+// pixels down to page y 248; below kMenuBottom that column is free. The page's own content
+// starts right of the column.
 constexpr int kPageWidth = 914;
 constexpr int kPageHeight = 560;
-constexpr QRect kDeckRect(0, 330, kPageWidth, 230);
-
-// Slot layout (page coordinates); X is the page-wide horizontal offset.
 constexpr int kOffsetX = LedAreaSelection::PageOffset;
+constexpr int kMenuBottom = 252;
+constexpr QRect kDeckRect(kOffsetX, 330, kPageWidth - kOffsetX, 230);
+
+// Slot layout (page coordinates).
 constexpr QRect kStripAreaFew(kOffsetX + 400, 20, 260, 295);
 constexpr QRect kStripAreaMany(kOffsetX + 280, 20, 500, 295);
 constexpr QPoint kPreviewLabelFew(kOffsetX + 126, 20);
@@ -63,17 +66,26 @@ constexpr int kRowPitchEightLeds = 30;
 constexpr int kFiveLeds = 5;
 constexpr int kEightLeds = 8;
 
-// Profiles and the slot-order editor in the left column.
+// Profiles and the slot-order editor in the left column, below the frame's menu. The editor's
+// buttons follow the profiles after a gap; in Edit mode Apply takes the Edit button's place and
+// Cancel stands below it.
 constexpr int kProfileX = 10;
-constexpr int kProfileTop = 53;
+constexpr int kProfileTop = kMenuBottom + 3;
 constexpr int kProfilePitch = 35;
 constexpr QSize kProfileSize(80, 30);
-constexpr QRect kEditRect(10, 275, 90, 30);
-constexpr QRect kEditApplyRect(10, 240, 90, 30);
-constexpr QRect kEditCancelRect(10, 275, 90, 30);
+constexpr int kEditGap = 20;
+constexpr int kEditTop = kProfileTop + (Lighting_View::ProfileCount - 1) * kProfilePitch +
+                         kProfileSize.height() + kEditGap;
+constexpr QRect kEditRect(QPoint(kProfileX, kEditTop), kProfileSize);
+constexpr QRect kEditApplyRect = kEditRect;
+constexpr QRect kEditCancelRect(QPoint(kProfileX, kEditTop + kProfilePitch), kProfileSize);
 constexpr QSize kEditMinimum(48, 20);
 
-// Deck controls (deck coordinates).
+// Deck controls (deck coordinates), in four blocks from left to right: mode controls, colour
+// wheel, Apply and Default, colour channels and brightness. The wheel stands level with the mode
+// button, above the switch row, so the switch's state label may reach under its corner.
+constexpr int kDeckWidth = kDeckRect.width();
+constexpr int kDeckGap = 20;
 constexpr QRect kLightModeRect(20, 10, 120, 30);
 constexpr QSize kMbSyncSize(350, 50);
 constexpr int kMbSyncGap = 10;
@@ -86,12 +98,11 @@ constexpr int kComboArrowWidth = 16;
 constexpr int kComboFont = 14;
 constexpr int kModeArrowWidth = 14;
 constexpr int kModeArrowRight = 4;
-constexpr QRect kTurnLightLabelRect(20, 185, 138, 30);
-constexpr QRect kSwitchRect(160, 191, 47, 19);
-constexpr QRect kSwitchLabelRect(215, 185, 90, 30);
-constexpr QPoint kPalettePos(310, 27);
-constexpr QRect kApplyRect(530, 70, 130, 40);
-constexpr QRect kDefaultRect(530, 125, 130, 40);
+constexpr QRect kTurnLightLabelRect(20, 188, 138, 30);
+constexpr QRect kSwitchRect(160, 194, 47, 19);
+constexpr QRect kSwitchLabelRect(215, 188, 85, 30);
+constexpr int kPaletteSize = 176;
+constexpr QPoint kPalettePos(kColorModeComboRect.right() + 1 + kDeckGap, kLightModeRect.top());
 constexpr int kRgbRight = 200;
 constexpr int kRgbTops[] = {55, 90, 125};
 constexpr QSize kRgbLabelSize(25, 25);
@@ -100,7 +111,7 @@ constexpr int kRgbSliderX = 28;
 constexpr int kRgbSliderWidth = 118;
 constexpr int kRgbEditX = 152;
 constexpr QSize kRgbEditSize(44, 25);
-constexpr QRect kSwatchRect(kPageWidth - kRgbRight, 14, 196, 28);
+constexpr QRect kSwatchRect(kDeckWidth - kRgbRight, 14, 196, 28);
 constexpr int kSwatchLightLimit = 150;
 constexpr int kBrightRight = 205;
 constexpr int kBrightBottom = 35;
@@ -108,9 +119,20 @@ constexpr QSize kBrightSize(200, 10);
 constexpr int kBrightLabelHeight = 22;
 constexpr int kBrightLabelGap = 6;
 constexpr int kBrightLabelFont = 14;
+// Apply and Default between the wheel and the channels, level with the two combos.
+constexpr int kActionX = kPalettePos.x() + kPaletteSize + kDeckGap;
+constexpr int kActionWidth = kDeckWidth - kBrightRight - kDeckGap - kActionX;
+constexpr int kActionHeight = 40;
+constexpr QRect kApplyRect(kActionX, kColorModeComboRect.center().y() - kActionHeight / 2,
+                           kActionWidth, kActionHeight);
+constexpr QRect kDefaultRect(kActionX, kSpeedComboRect.center().y() - kActionHeight / 2,
+                             kActionWidth, kActionHeight);
 
 // The light-mode list below the light-mode button (page coordinates).
-constexpr QRect kLightModeListRect(20, 372, 660, 180);
+constexpr QSize kLightModeListSize(660, 180);
+constexpr QRect kLightModeListRect(QPoint(kDeckRect.left() + kLightModeRect.left(),
+                                          kDeckRect.top() + kLightModeRect.bottom() + 3),
+                                   kLightModeListSize);
 
 // Brightness slider and colour channels.
 constexpr int kBrightSteps = 10;
@@ -498,7 +520,7 @@ void Lighting_View::createColorControls(QWidget* deck)
     label_ColorSwatch->setAlignment(Qt::AlignCenter);
     label_ColorSwatch->setGeometry(kSwatchRect);
 
-    const int left = kDeckRect.width() - kRgbRight;
+    const int left = kDeckWidth - kRgbRight;
     const char* const colors[] = {kRed, kGreen, kBlue};
     const char* const names[] = {"R", "G", "B"};
     QLabel** labels[] = {&label_R_Value, &label_G_Value, &label_B_Value};
@@ -543,7 +565,7 @@ void Lighting_View::createColorControls(QWidget* deck)
     label_Brightness->setStyleSheet(
         styled(kCaptionStyle, label_Brightness->objectName(), QString::number(kBrightLabelFont)));
     const int brightTop = kDeckRect.height() - kBrightBottom;
-    label_Brightness->setGeometry(kDeckRect.width() - kBrightRight,
+    label_Brightness->setGeometry(kDeckWidth - kBrightRight,
                                   brightTop - kBrightLabelGap - kBrightLabelHeight,
                                   kBrightSize.width(), kBrightLabelHeight);
 
@@ -554,8 +576,7 @@ void Lighting_View::createColorControls(QWidget* deck)
     slider_Light->setPageStep(1);
     slider_Light->setValue(kBrightSteps);
     slider_Light->setStyleSheet(QString::fromLatin1(kBrightSliderStyle));
-    slider_Light->setGeometry(
-        QRect(QPoint(kDeckRect.width() - kBrightRight, brightTop), kBrightSize));
+    slider_Light->setGeometry(QRect(QPoint(kDeckWidth - kBrightRight, brightTop), kBrightSize));
 }
 
 void Lighting_View::createSwitchAndActions(QWidget* deck)
@@ -887,6 +908,8 @@ void Lighting_View::applyMbSyncRule(int lightMode)
     if (mbSyncWarning && lightMode == kMbSyncMode) {
         qDebug() << "label_MB_Sync->setHidden(false)";
         label_MB_Sync->setHidden(false);
+        // The warning reaches over the colour wheel; it must not be painted under it.
+        label_MB_Sync->raise();
     } else {
         qDebug() << "label_MB_Sync->setHidden(true)";
         label_MB_Sync->setHidden(true);

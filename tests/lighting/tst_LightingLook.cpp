@@ -1,13 +1,106 @@
 // The page's look: every caption fits its widget in all ten languages, the controls of the deck
-// do not overlap, and (with NX_LIGHTING_SHOTS set to a directory) screenshots for review.
+// do not overlap, only the profile column shares the frame's menu column and stays below the
+// menu, and (with NX_LIGHTING_SHOTS set to a directory) screenshots for review.
 
 #include "LightingTestSupport.h"
+#include "Palette_draw_rect.h"
+#include "Widget_Light_Mode_View.h"
 
 #include <QDir>
 #include <QStandardPaths>
 #include <QTranslator>
 
 using namespace LightingTest;
+
+namespace {
+
+// The frame's menu column: the page's left 100 pixels lie in it, and its entries reach down to
+// window y 288. Only the profile column may stand there, starting at window y 292.
+constexpr int MenuColumnRight = 100;
+constexpr int MenuClearY = 292;
+
+bool inProfileColumn(const QWidget* widget)
+{
+    const QString name = widget->objectName();
+    return name.startsWith(QLatin1String("btn_Profile")) ||
+           name.startsWith(QLatin1String("btn_Edit"));
+}
+
+// Everything wrong with the page's layout as it stands, one line per fault.
+QStringList layoutFaults(const Fixture& f)
+{
+    QStringList faults;
+    const auto fault = [&faults](const QWidget* widget, const char* what) {
+        const QString name = widget->objectName();
+        faults << (name.isEmpty() ? QLatin1String(widget->metaObject()->className()) : name) +
+                      QLatin1Char(' ') + QLatin1String(what);
+    };
+
+    // The deck fills the page's width right of the menu column; its visible controls stand
+    // apart and wholly inside it.
+    QWidget* deck = f.child(QStringLiteral("widget_Lighting_Control"));
+    if (deck->x() != MenuColumnRight || deck->geometry().right() != f.page->width() - 1)
+        fault(deck, "does not span the page right of the menu column");
+    QList<QWidget*> controls;
+    for (QWidget* widget : deck->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!widget->isHidden() && !widget->objectName().startsWith(QLatin1String("line_")))
+            controls << widget;
+    }
+    if (controls.size() < 18)
+        fault(deck, "has lost controls");
+    for (int i = 0; i < controls.size(); ++i) {
+        if (!deck->rect().contains(controls[i]->geometry()))
+            fault(controls[i], "is clipped by the deck");
+        for (int j = i + 1; j < controls.size(); ++j) {
+            if (controls[i]->geometry().intersects(controls[j]->geometry()))
+                faults << controls[i]->objectName() + QStringLiteral(" overlaps ") +
+                              controls[j]->objectName();
+        }
+    }
+
+    // Left of the page's own content only the profile column, below the menu and beside the
+    // deck. Hidden widgets count too: they show at their place. The band and the drag image
+    // follow the pointer.
+    QList<QWidget*> column;
+    for (QWidget* widget : f.page->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (qobject_cast<Palette_draw_rect*>(widget) ||
+            widget->objectName() == QLatin1String("label_DragSlot"))
+            continue;
+        const QRect rect = widget->geometry();
+        if (!widget->isHidden() && !f.page->rect().contains(rect))
+            fault(widget, "leaves the page");
+        if (!inProfileColumn(widget)) {
+            if (rect.left() < MenuColumnRight)
+                fault(widget, "lies in the menu column");
+            continue;
+        }
+        if (rect.right() >= MenuColumnRight || rect.intersects(deck->geometry()))
+            fault(widget, "reaches out of the profile column");
+        if (widget->mapTo(f.frame.get(), QPoint(0, 0)).y() < MenuClearY)
+            fault(widget, "lies over the frame's menu");
+        if (!widget->isHidden())
+            column << widget;
+    }
+
+    // The visible column: one width, one left edge, no two buttons on each other, nothing over
+    // any of them.
+    for (int i = 0; i < column.size(); ++i) {
+        const QRect rect = column[i]->geometry();
+        if (rect.left() != column[0]->x() || rect.width() != column[0]->width())
+            fault(column[i], "is out of line with the column");
+        for (int j = i + 1; j < column.size(); ++j) {
+            if (rect.intersects(column[j]->geometry()))
+                faults << column[i]->objectName() + QStringLiteral(" overlaps ") +
+                              column[j]->objectName();
+        }
+        if (f.frame->childAt(column[i]->mapTo(f.frame.get(), rect.center() - rect.topLeft())) !=
+            column[i])
+            fault(column[i], "is covered");
+    }
+    return faults;
+}
+
+} // namespace
 
 class tst_LightingLook : public QObject
 {
@@ -17,7 +110,8 @@ private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void captionsFitInEveryLanguage_data();
     void captionsFitInEveryLanguage();
-    void deckControlsDoNotOverlap();
+    void layoutStandsClear_data();
+    void layoutStandsClear();
     void screenshots();
 
 private:
@@ -88,36 +182,52 @@ void tst_LightingLook::captionsFitInEveryLanguage()
         for (const QString& item : visibleItems(combo))
             check(combo, item, combo->width() - comboPadding);
     }
+    // The switch's state label shows "ON" now; it has to hold "OFF" as well.
+    auto* switchLabel = f.child<QLabel>(QStringLiteral("label_Switch"));
+    check(switchLabel, QCoreApplication::translate("Lighting_View", "OFF"), switchLabel->width());
+    clipped << layoutFaults(f);
+    QTest::mouseClick(f.page->btn_Edit, Qt::LeftButton);
+    clipped << layoutFaults(f);
     QCoreApplication::removeTranslator(&translator);
     currentLanguage = 0;
     QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(QStringLiteral("; "))));
     save(f.frame.get(), QStringLiteral("language_%1").arg(code));
 }
 
-// The controls of the deck stand apart from each other.
-void tst_LightingLook::deckControlsDoNotOverlap()
+void tst_LightingLook::layoutStandsClear_data()
 {
+    QTest::addColumn<int>("slotTotal");
+    QTest::addColumn<int>("leds");
+    QTest::addColumn<bool>("edit");
+    QTest::newRow("4 slots") << 4 << 5 << false;
+    QTest::newRow("4 slots, editing") << 4 << 5 << true;
+    QTest::newRow("8 slots") << 8 << 8 << false;
+    QTest::newRow("8 slots, editing") << 8 << 8 << true;
+}
+
+// The deck's controls stand apart inside the deck, and only the profile column lies in the
+// frame's menu column, below the menu, with or without Edit mode's buttons.
+void tst_LightingLook::layoutStandsClear()
+{
+    QFETCH(int, slotTotal);
+    QFETCH(int, leds);
+    QFETCH(bool, edit);
     Fixture f;
-    f.load(8, 8, 8);
-    QWidget* deck = f.child(QStringLiteral("widget_Lighting_Control"));
-    QList<QWidget*> controls;
-    for (QWidget* widget : deck->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (!widget->isHidden() && !widget->objectName().startsWith(QLatin1String("line_")))
-            controls << widget;
+    f.load(slotTotal, slotTotal, leds);
+    f.clickSlot(0);
+    if (edit) {
+        QTest::mouseClick(f.page->btn_Edit, Qt::LeftButton);
+        QVERIFY(f.page->btn_Edit_Apply->isVisible() && f.page->btn_Edit_Cancel->isVisible());
     }
-    QVERIFY(controls.size() >= 18);
-    for (int i = 0; i < controls.size(); ++i) {
-        for (int j = i + 1; j < controls.size(); ++j) {
-            QVERIFY2(!controls[i]->geometry().intersects(controls[j]->geometry()),
-                     qPrintable(controls[i]->objectName() + QStringLiteral(" overlaps ") +
-                                controls[j]->objectName()));
-        }
-    }
-    // Everything stays inside the page.
-    for (QWidget* widget : f.page->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (!widget->isHidden() && widget->objectName() != QLatin1String("Palette_draw_rect"))
-            QVERIFY2(f.page->rect().contains(widget->geometry()), qPrintable(widget->objectName()));
-    }
+    const QStringList faults = layoutFaults(f);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QStringLiteral("; "))));
+
+    // The light-mode list opens over the deck, not over the menu column.
+    QTest::mouseClick(f.child<QPushButton>(QStringLiteral("btn_LightMode")), Qt::LeftButton);
+    QWidget* list = f.page->findChild<Widget_Light_Mode_View*>();
+    QVERIFY(list->isVisible());
+    QVERIFY(
+        f.child(QStringLiteral("widget_Lighting_Control"))->geometry().contains(list->geometry()));
 }
 
 void tst_LightingLook::screenshots()

@@ -337,6 +337,13 @@ void tst_LightingRules::mbSyncLabel()
     // From the controller for the focused module, and from a pick in the list.
     f.page->setLighting(0, mode, 0, 1, false);
     QCOMPARE(label->isVisible(), shown);
+    // Shown, it reads on top of the colour wheel it reaches over.
+    if (shown) {
+        QWidget* deck = label->parentWidget();
+        const QRect shared = label->geometry() & f.child(QStringLiteral("rgb_Palette"))->geometry();
+        QVERIFY(!shared.isEmpty());
+        QCOMPARE(deck->childAt(shared.center()), label);
+    }
     f.page->setLighting(0, 15, 0, 1, false);
     QVERIFY(label->isHidden());
     f.clickSlot(0);
