@@ -54,8 +54,11 @@ const char kSpecialSuffix[] = "_CES";
 
 // Language index order, shared with the language list.
 const char* const kCodes[] = {
-    QT_TR_NOOP("en"), QT_TR_NOOP("tc"), QT_TR_NOOP("sc"), QT_TR_NOOP("de"), QT_TR_NOOP("fr"),
-    QT_TR_NOOP("jp"), QT_TR_NOOP("th"), QT_TR_NOOP("ru"), QT_TR_NOOP("kr"), QT_TR_NOOP("es")};
+    QT_TRANSLATE_NOOP("Setting_View", "en"), QT_TRANSLATE_NOOP("Setting_View", "tc"),
+    QT_TRANSLATE_NOOP("Setting_View", "sc"), QT_TRANSLATE_NOOP("Setting_View", "de"),
+    QT_TRANSLATE_NOOP("Setting_View", "fr"), QT_TRANSLATE_NOOP("Setting_View", "jp"),
+    QT_TRANSLATE_NOOP("Setting_View", "th"), QT_TRANSLATE_NOOP("Setting_View", "ru"),
+    QT_TRANSLATE_NOOP("Setting_View", "kr"), QT_TRANSLATE_NOOP("Setting_View", "es")};
 const int kCodeCount = int(sizeof(kCodes) / sizeof(kCodes[0]));
 
 int autoRunFontSize(int language)

@@ -23,8 +23,11 @@ const int kRows = 3;
 
 // In language-index order; the translation files give each code its native name.
 const char* const kCodes[Widget_Language::kLanguageCount] = {
-    QT_TR_NOOP("en"), QT_TR_NOOP("tc"), QT_TR_NOOP("sc"), QT_TR_NOOP("de"), QT_TR_NOOP("fr"),
-    QT_TR_NOOP("jp"), QT_TR_NOOP("th"), QT_TR_NOOP("ru"), QT_TR_NOOP("kr"), QT_TR_NOOP("es")};
+    QT_TRANSLATE_NOOP("Widget_Language", "en"), QT_TRANSLATE_NOOP("Widget_Language", "tc"),
+    QT_TRANSLATE_NOOP("Widget_Language", "sc"), QT_TRANSLATE_NOOP("Widget_Language", "de"),
+    QT_TRANSLATE_NOOP("Widget_Language", "fr"), QT_TRANSLATE_NOOP("Widget_Language", "jp"),
+    QT_TRANSLATE_NOOP("Widget_Language", "th"), QT_TRANSLATE_NOOP("Widget_Language", "ru"),
+    QT_TRANSLATE_NOOP("Widget_Language", "kr"), QT_TRANSLATE_NOOP("Widget_Language", "es")};
 
 } // namespace
 

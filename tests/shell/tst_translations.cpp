@@ -31,47 +31,38 @@ struct Problems {
     void add(const QString& text) { list << text; }
 };
 
-// Reads every .ts file of one language: the main file and the fragments.
+// Reads the translation source of one language.
 Catalogue readCatalogue(const QString& code, Problems& problems)
 {
     Catalogue catalogue;
-    const QString root = QStringLiteral(NX_SOURCE_DIR "/app/resources/translations");
-    QStringList files = QDir(root + "/fragments")
-                            .entryList({"*_" + code + ".ts"}, QDir::Files, QDir::Name);
-    for (QString& f : files)
-        f = root + "/fragments/" + f;
-    files.prepend(root + "/NORVALEX_" + code + ".ts");
-    for (const QString& path : qAsConst(files)) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly)) {
-            problems.add("cannot read " + QFileInfo(path).fileName());
-            continue;
-        }
-        QXmlStreamReader xml(&file);
-        QString context, source, translation;
-        bool unfinished = false;
-        while (!xml.atEnd()) {
-            xml.readNext();
-            if (!xml.isStartElement())
-                continue;
-            if (xml.name() == QLatin1String("name")) {
-                context = xml.readElementText();
-            } else if (xml.name() == QLatin1String("source")) {
-                source = xml.readElementText();
-            } else if (xml.name() == QLatin1String("translation")) {
-                const QString type = xml.attributes().value("type").toString();
-                unfinished = type == QLatin1String("unfinished") || type == QLatin1String("obsolete") ||
-                             type == QLatin1String("vanished");
-                translation = xml.readElementText();
-                if (unfinished || translation.isEmpty())
-                    problems.add(QStringLiteral("%1: %2/%3 has no finished translation")
-                                     .arg(code, context, source));
-                catalogue[context][source] = translation;
-            }
-        }
-        if (xml.hasError())
-            problems.add(QFileInfo(path).fileName() + ": " + xml.errorString());
+    const QString path =
+        QStringLiteral(NX_SOURCE_DIR "/app/resources/translations/NORVALEX_") + code + ".ts";
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        problems.add("cannot read " + QFileInfo(path).fileName());
+        return catalogue;
     }
+    QXmlStreamReader xml(&file);
+    QString context, source;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("source")) {
+            source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("translation")) {
+            const QString type = xml.attributes().value("type").toString();
+            const QString translation = xml.readElementText();
+            if (!type.isEmpty() || translation.isEmpty())
+                problems.add(QStringLiteral("%1: %2/%3 has no finished translation")
+                                 .arg(code, context, source));
+            catalogue[context][source] = translation;
+        }
+    }
+    if (xml.hasError())
+        problems.add(QFileInfo(path).fileName() + ": " + xml.errorString());
     return catalogue;
 }
 

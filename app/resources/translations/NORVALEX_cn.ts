@@ -1,4 +1,486 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>Clean_View</name>
+    <message>
+        <source>Clean</source>
+        <translation>清理</translation>
+    </message>
+</context>
+<context>
+    <name>Information_Slots_View</name>
+    <message>
+        <source>Type:</source>
+        <translation>类型：</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>容量：</translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>频率：</translation>
+    </message>
+    <message>
+        <source>Temperature:</source>
+        <translation>温度：</translation>
+    </message>
+</context>
+<context>
+    <name>Information_View</name>
+    <message>
+        <source>Channel:</source>
+        <translation>通道：</translation>
+    </message>
+    <message>
+        <source>CAS# Latency (CL):</source>
+        <translation>CAS# 延迟 (CL)：</translation>
+    </message>
+    <message>
+        <source>RAS# to CAS# Delay (tRCD):</source>
+        <translation>RAS# 到 CAS# 延迟 (tRCD)：</translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>频率：</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>负载</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+</context>
+<context>
+    <name>Lighting_View</name>
+    <message>
+        <source>Flow</source>
+        <translation>流动</translation>
+    </message>
+    <message>
+        <source>RGB Spectrum</source>
+        <translation>RGB 光谱</translation>
+    </message>
+    <message>
+        <source>Ripple</source>
+        <translation>涟漪</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>闪烁</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>脉冲</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>波浪</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>常亮</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>电影</translation>
+    </message>
+    <message>
+        <source>Gaming</source>
+        <translation>游戏</translation>
+    </message>
+    <message>
+        <source>Party</source>
+        <translation>派对</translation>
+    </message>
+    <message>
+        <source>Mobile_Movie</source>
+        <translation>移动电影</translation>
+    </message>
+    <message>
+        <source>Mobile_Gaming</source>
+        <translation>移动游戏</translation>
+    </message>
+    <message>
+        <source>Mobile_Party</source>
+        <translation>移动派对</translation>
+    </message>
+    <message>
+        <source>Temp.</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>交叉</translation>
+    </message>
+    <message>
+        <source>Hello</source>
+        <translation>问候</translation>
+    </message>
+    <message>
+        <source>Shooting Star</source>
+        <translation>流星</translation>
+    </message>
+    <message>
+        <source>Black Hole</source>
+        <translation>黑洞</translation>
+    </message>
+    <message>
+        <source>Aurora</source>
+        <translation>极光</translation>
+    </message>
+    <message>
+        <source>RGB Sync</source>
+        <translation>RGB 同步</translation>
+    </message>
+    <message>
+        <source>Twinkle</source>
+        <translation>闪耀</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>脚本</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>天气</translation>
+    </message>
+    <message>
+        <source>Raindrop</source>
+        <translation>雨滴</translation>
+    </message>
+    <message>
+        <source>Heartbeat</source>
+        <translation>心跳</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>堆叠</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>扫描</translation>
+    </message>
+    <message>
+        <source>Swirl</source>
+        <translation>漩涡</translation>
+    </message>
+    <message>
+        <source>Screen Gaming</source>
+        <translation>屏幕游戏</translation>
+    </message>
+    <message>
+        <source>Screen Movie</source>
+        <translation>屏幕电影</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>时钟</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>下雨</translation>
+    </message>
+    <message>
+        <source>Fireworks</source>
+        <translation>烟花</translation>
+    </message>
+    <message>
+        <source>Explosion</source>
+        <translation>爆炸</translation>
+    </message>
+    <message>
+        <source>MB Sync</source>
+        <translation>主板同步</translation>
+    </message>
+    <message>
+        <source>Radiation</source>
+        <translation>辐射</translation>
+    </message>
+    <message>
+        <source>Aim</source>
+        <translation>瞄准</translation>
+    </message>
+    <message>
+        <source>RGB</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>单色</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>随机</translation>
+    </message>
+    <message>
+        <source>Extreme</source>
+        <translation>极速</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>快</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>慢</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>颜色模式</translation>
+    </message>
+    <message>
+        <source>Light Speed</source>
+        <translation>灯效速度</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>开启</translation>
+    </message>
+    <message>
+        <source>Light Switch</source>
+        <translation>灯光开关</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>MB_Sync_Warning_Content</source>
+        <translation>此模块正跟随主板的灯光软件，请在该软件中设置它的灯光。</translation>
+    </message>
+</context>
+<context>
+    <name>Loading_View</name>
+    <message>
+        <source>Can not Find QX NORVALEX</source>
+        <translation>未找到 NORVALEX 内存模块</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>Main_View</name>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>灯光</translation>
+    </message>
+    <message>
+        <source>Notification</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+</context>
+<context>
+    <name>Noti_View</name>
+    <message>
+        <source>Setting Notification</source>
+        <translation>设置通知</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>负载</translation>
+    </message>
+    <message>
+        <source>Trigger all LED </source>
+        <translation>将所有 LED 切换为</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>内存</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Shutdown PC</source>
+        <translation>提示用户关闭电脑以避免损坏</translation>
+    </message>
+    <message>
+        <source>Set all fans to 100%</source>
+        <translation>将所有风扇设为全速</translation>
+    </message>
+</context>
+<context>
+    <name>Setting_View</name>
+    <message>
+        <source>en</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>tc</source>
+        <translation>正體中文</translation>
+    </message>
+    <message>
+        <source>sc</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>de</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>fr</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>jp</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>th</source>
+        <translation>ไทย</translation>
+    </message>
+    <message>
+        <source>ru</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>kr</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>es</source>
+        <translation>Spanish</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Auto Update</source>
+        <translation>自动更新</translation>
+    </message>
+    <message>
+        <source>Run NORVALEX RGB Program when Windows starts.</source>
+        <translation>系统启动后最小化</translation>
+    </message>
+    <message>
+        <source>Current_Location</source>
+        <translation>开启定位服务以接收当地天气信息</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Language</name>
+    <message>
+        <source>en</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>tc</source>
+        <translation>正體中文</translation>
+    </message>
+    <message>
+        <source>sc</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>de</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>fr</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>jp</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>th</source>
+        <translation>ไทย</translation>
+    </message>
+    <message>
+        <source>ru</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>kr</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>es</source>
+        <translation>Spanish</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_LocationPolicy</name>
+    <message>
+        <source>NORVALEX Privacy Policy</source>
+        <translation>隐私政策</translation>
+    </message>
+    <message>
+        <source>Location_Warning_Title</source>
+        <translation>隐私政策</translation>
+    </message>
+    <message>
+        <source>Location_Warning_Content</source>
+        <translation>Prismveil - NORVALEX 想要使用您当前的位置，以获取时间和天气信息。</translation>
+    </message>
+    <message>
+        <source>Location_Not_Remind</source>
+        <translation>允许</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
 </TS>

@@ -1,4 +1,486 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+<context>
+    <name>Clean_View</name>
+    <message>
+        <source>Clean</source>
+        <translation>クリーンアップ</translation>
+    </message>
+</context>
+<context>
+    <name>Information_Slots_View</name>
+    <message>
+        <source>Type:</source>
+        <translation>タイプ：</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>容量：</translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>周波数：</translation>
+    </message>
+    <message>
+        <source>Temperature:</source>
+        <translation>温度：</translation>
+    </message>
+</context>
+<context>
+    <name>Information_View</name>
+    <message>
+        <source>Channel:</source>
+        <translation>チャネル：</translation>
+    </message>
+    <message>
+        <source>CAS# Latency (CL):</source>
+        <translation>CAS# レイテンシ (CL)：</translation>
+    </message>
+    <message>
+        <source>RAS# to CAS# Delay (tRCD):</source>
+        <translation>RAS# - CAS# 遅延 (tRCD)：</translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>周波数：</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>負荷</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+</context>
+<context>
+    <name>Lighting_View</name>
+    <message>
+        <source>Flow</source>
+        <translation>フロー</translation>
+    </message>
+    <message>
+        <source>RGB Spectrum</source>
+        <translation>RGBスペクトラム</translation>
+    </message>
+    <message>
+        <source>Ripple</source>
+        <translation>波紋</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>点滅</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>パルス</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>ウェーブ</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>点灯</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>ムービー</translation>
+    </message>
+    <message>
+        <source>Gaming</source>
+        <translation>ゲーミング</translation>
+    </message>
+    <message>
+        <source>Party</source>
+        <translation>パーティー</translation>
+    </message>
+    <message>
+        <source>Mobile_Movie</source>
+        <translation>モバイルムービー</translation>
+    </message>
+    <message>
+        <source>Mobile_Gaming</source>
+        <translation>モバイルゲーミング</translation>
+    </message>
+    <message>
+        <source>Mobile_Party</source>
+        <translation>モバイルパーティー</translation>
+    </message>
+    <message>
+        <source>Temp.</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>クロス</translation>
+    </message>
+    <message>
+        <source>Hello</source>
+        <translation>ハロー</translation>
+    </message>
+    <message>
+        <source>Shooting Star</source>
+        <translation>流れ星</translation>
+    </message>
+    <message>
+        <source>Black Hole</source>
+        <translation>ブラックホール</translation>
+    </message>
+    <message>
+        <source>Aurora</source>
+        <translation>オーロラ</translation>
+    </message>
+    <message>
+        <source>RGB Sync</source>
+        <translation>RGB同期</translation>
+    </message>
+    <message>
+        <source>Twinkle</source>
+        <translation>きらめき</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>スクリプト</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>天気</translation>
+    </message>
+    <message>
+        <source>Raindrop</source>
+        <translation>雨粒</translation>
+    </message>
+    <message>
+        <source>Heartbeat</source>
+        <translation>ハートビート</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>スタック</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>スキャン</translation>
+    </message>
+    <message>
+        <source>Swirl</source>
+        <translation>渦巻き</translation>
+    </message>
+    <message>
+        <source>Screen Gaming</source>
+        <translation>画面ゲーミング</translation>
+    </message>
+    <message>
+        <source>Screen Movie</source>
+        <translation>画面ムービー</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>時計</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>雨</translation>
+    </message>
+    <message>
+        <source>Fireworks</source>
+        <translation>花火</translation>
+    </message>
+    <message>
+        <source>Explosion</source>
+        <translation>爆発</translation>
+    </message>
+    <message>
+        <source>MB Sync</source>
+        <translation>マザーボード同期</translation>
+    </message>
+    <message>
+        <source>Radiation</source>
+        <translation>放射</translation>
+    </message>
+    <message>
+        <source>Aim</source>
+        <translation>エイム</translation>
+    </message>
+    <message>
+        <source>RGB</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>単色</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>ランダム</translation>
+    </message>
+    <message>
+        <source>Extreme</source>
+        <translation>最速</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>速い</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>遅い</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Light Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Light Switch</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>MB_Sync_Warning_Content</source>
+        <translation>このモジュールはマザーボードのライティングソフトウェアに従っています。ライティングはそちらで設定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Loading_View</name>
+    <message>
+        <source>Can not Find QX NORVALEX</source>
+        <translation>NORVALEX メモリモジュールが見つかりません</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Main_View</name>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>ライティング</translation>
+    </message>
+    <message>
+        <source>Notification</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+</context>
+<context>
+    <name>Noti_View</name>
+    <message>
+        <source>Setting Notification</source>
+        <translation>通知の設定</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>負荷</translation>
+    </message>
+    <message>
+        <source>Trigger all LED </source>
+        <translation>全LEDをこの色に点灯</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Shutdown PC</source>
+        <translation>損傷を防ぐためPCのシャットダウンを促す</translation>
+    </message>
+    <message>
+        <source>Set all fans to 100%</source>
+        <translation>全ファンを最大回転数にする</translation>
+    </message>
+</context>
+<context>
+    <name>Setting_View</name>
+    <message>
+        <source>en</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>tc</source>
+        <translation>正體中文</translation>
+    </message>
+    <message>
+        <source>sc</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>de</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>fr</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>jp</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>th</source>
+        <translation>ไทย</translation>
+    </message>
+    <message>
+        <source>ru</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>kr</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>es</source>
+        <translation>Spanish</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Auto Update</source>
+        <translation>自動更新</translation>
+    </message>
+    <message>
+        <source>Run NORVALEX RGB Program when Windows starts.</source>
+        <translation>システム起動後に最小化</translation>
+    </message>
+    <message>
+        <source>Current_Location</source>
+        <translation>位置情報をオンにして地域の天気情報を受け取る</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Language</name>
+    <message>
+        <source>en</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>tc</source>
+        <translation>正體中文</translation>
+    </message>
+    <message>
+        <source>sc</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>de</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>fr</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>jp</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>th</source>
+        <translation>ไทย</translation>
+    </message>
+    <message>
+        <source>ru</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>kr</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>es</source>
+        <translation>Spanish</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_LocationPolicy</name>
+    <message>
+        <source>NORVALEX Privacy Policy</source>
+        <translation>プライバシーポリシー</translation>
+    </message>
+    <message>
+        <source>Location_Warning_Title</source>
+        <translation>プライバシーポリシー</translation>
+    </message>
+    <message>
+        <source>Location_Warning_Content</source>
+        <translation>Prismveil - NORVALEX が時刻と天気を取得するため、現在地の使用を求めています。</translation>
+    </message>
+    <message>
+        <source>Location_Not_Remind</source>
+        <translation>許可する</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -1,4 +1,486 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="th_TH" sourcelanguage="en_US">
+<context>
+    <name>Clean_View</name>
+    <message>
+        <source>Clean</source>
+        <translation>ล้างข้อมูล</translation>
+    </message>
+</context>
+<context>
+    <name>Information_Slots_View</name>
+    <message>
+        <source>Type:</source>
+        <translation>ประเภท: </translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>ขนาด: </translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>ความถี่: </translation>
+    </message>
+    <message>
+        <source>Temperature:</source>
+        <translation>อุณหภูมิ: </translation>
+    </message>
+</context>
+<context>
+    <name>Information_View</name>
+    <message>
+        <source>Channel:</source>
+        <translation>แชนเนล: </translation>
+    </message>
+    <message>
+        <source>CAS# Latency (CL):</source>
+        <translation>ค่าหน่วง CAS# (CL): </translation>
+    </message>
+    <message>
+        <source>RAS# to CAS# Delay (tRCD):</source>
+        <translation>ค่าหน่วง RAS# ถึง CAS# (tRCD): </translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>ความถี่: </translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>ภาระ</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>ต่ำ</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>สูง</translation>
+    </message>
+</context>
+<context>
+    <name>Lighting_View</name>
+    <message>
+        <source>Flow</source>
+        <translation>ไหลเวียน</translation>
+    </message>
+    <message>
+        <source>RGB Spectrum</source>
+        <translation>สเปกตรัม RGB</translation>
+    </message>
+    <message>
+        <source>Ripple</source>
+        <translation>ระลอกคลื่น</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>กะพริบ</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>ชีพจร</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>คลื่น</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>คงที่</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>คัดลอก</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>ภาพยนตร์</translation>
+    </message>
+    <message>
+        <source>Gaming</source>
+        <translation>เกม</translation>
+    </message>
+    <message>
+        <source>Party</source>
+        <translation>ปาร์ตี้</translation>
+    </message>
+    <message>
+        <source>Mobile_Movie</source>
+        <translation>ภาพยนตร์มือถือ</translation>
+    </message>
+    <message>
+        <source>Mobile_Gaming</source>
+        <translation>เกมมือถือ</translation>
+    </message>
+    <message>
+        <source>Mobile_Party</source>
+        <translation>ปาร์ตี้มือถือ</translation>
+    </message>
+    <message>
+        <source>Temp.</source>
+        <translation>อุณหภูมิ</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>กากบาท</translation>
+    </message>
+    <message>
+        <source>Hello</source>
+        <translation>สวัสดี</translation>
+    </message>
+    <message>
+        <source>Shooting Star</source>
+        <translation>ดาวตก</translation>
+    </message>
+    <message>
+        <source>Black Hole</source>
+        <translation>หลุมดำ</translation>
+    </message>
+    <message>
+        <source>Aurora</source>
+        <translation>แสงเหนือ</translation>
+    </message>
+    <message>
+        <source>RGB Sync</source>
+        <translation>ซิงก์ RGB</translation>
+    </message>
+    <message>
+        <source>Twinkle</source>
+        <translation>ระยิบระยับ</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>สคริปต์</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>สภาพอากาศ</translation>
+    </message>
+    <message>
+        <source>Raindrop</source>
+        <translation>หยดฝน</translation>
+    </message>
+    <message>
+        <source>Heartbeat</source>
+        <translation>หัวใจเต้น</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>ซ้อนชั้น</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>สแกน</translation>
+    </message>
+    <message>
+        <source>Swirl</source>
+        <translation>หมุนวน</translation>
+    </message>
+    <message>
+        <source>Screen Gaming</source>
+        <translation>เกมบนหน้าจอ</translation>
+    </message>
+    <message>
+        <source>Screen Movie</source>
+        <translation>ภาพยนตร์บนหน้าจอ</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>นาฬิกา</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>ฝนตก</translation>
+    </message>
+    <message>
+        <source>Fireworks</source>
+        <translation>ดอกไม้ไฟ</translation>
+    </message>
+    <message>
+        <source>Explosion</source>
+        <translation>ระเบิด</translation>
+    </message>
+    <message>
+        <source>MB Sync</source>
+        <translation>ซิงก์เมนบอร์ด</translation>
+    </message>
+    <message>
+        <source>Radiation</source>
+        <translation>แผ่รังสี</translation>
+    </message>
+    <message>
+        <source>Aim</source>
+        <translation>เล็งเป้า</translation>
+    </message>
+    <message>
+        <source>RGB</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>สีเดียว</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>ปิด</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>สุ่ม</translation>
+    </message>
+    <message>
+        <source>Extreme</source>
+        <translation>เร็วสุด</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>เร็ว</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>ปกติ</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>ช้า</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>โปรไฟล์</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>ใช้</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>ค่าเริ่มต้น</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>แก้ไข</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>ตัวอย่าง</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>โหมดสี</translation>
+    </message>
+    <message>
+        <source>Light Speed</source>
+        <translation>ความเร็วไฟ</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>เปิด</translation>
+    </message>
+    <message>
+        <source>Light Switch</source>
+        <translation>เปิด/ปิดไฟ</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>ความสว่าง</translation>
+    </message>
+    <message>
+        <source>MB_Sync_Warning_Content</source>
+        <translation>โมดูลนี้ทำงานตามซอฟต์แวร์ควบคุมไฟของเมนบอร์ด โปรดตั้งค่าไฟของโมดูลในซอฟต์แวร์นั้น</translation>
+    </message>
+</context>
+<context>
+    <name>Loading_View</name>
+    <message>
+        <source>Can not Find QX NORVALEX</source>
+        <translation>ไม่พบโมดูลหน่วยความจำ NORVALEX</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ตกลง</translation>
+    </message>
+</context>
+<context>
+    <name>Main_View</name>
+    <message>
+        <source>Information</source>
+        <translation>ข้อมูล</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>แสงไฟ</translation>
+    </message>
+    <message>
+        <source>Notification</source>
+        <translation>การแจ้งเตือน</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>การตั้งค่า</translation>
+    </message>
+</context>
+<context>
+    <name>Noti_View</name>
+    <message>
+        <source>Setting Notification</source>
+        <translation>ตั้งค่าการแจ้งเตือน</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>โหลด</translation>
+    </message>
+    <message>
+        <source>Trigger all LED </source>
+        <translation>เปลี่ยน LED ทั้งหมดเป็น</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>หน่วยความจำ</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Shutdown PC</source>
+        <translation>แจ้งให้ปิดเครื่องพีซีเพื่อป้องกันความเสียหาย</translation>
+    </message>
+    <message>
+        <source>Set all fans to 100%</source>
+        <translation>ตั้งพัดลมทั้งหมดเป็นความเร็วสูงสุด</translation>
+    </message>
+</context>
+<context>
+    <name>Setting_View</name>
+    <message>
+        <source>en</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>tc</source>
+        <translation>正體中文</translation>
+    </message>
+    <message>
+        <source>sc</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>de</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>fr</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>jp</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>th</source>
+        <translation>ไทย</translation>
+    </message>
+    <message>
+        <source>ru</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>kr</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>es</source>
+        <translation>Spanish</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>ภาษา</translation>
+    </message>
+    <message>
+        <source>Auto Update</source>
+        <translation>อัปเดตอัตโนมัติ</translation>
+    </message>
+    <message>
+        <source>Run NORVALEX RGB Program when Windows starts.</source>
+        <translation>ย่อหน้าต่างหลังเริ่มระบบ</translation>
+    </message>
+    <message>
+        <source>Current_Location</source>
+        <translation>เปิดบริการตำแหน่งเพื่อรับข้อมูลสภาพอากาศในพื้นที่</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>เวอร์ชัน</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Language</name>
+    <message>
+        <source>en</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>tc</source>
+        <translation>正體中文</translation>
+    </message>
+    <message>
+        <source>sc</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>de</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>fr</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>jp</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>th</source>
+        <translation>ไทย</translation>
+    </message>
+    <message>
+        <source>ru</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>kr</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>es</source>
+        <translation>Spanish</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_LocationPolicy</name>
+    <message>
+        <source>NORVALEX Privacy Policy</source>
+        <translation>นโยบายความเป็นส่วนตัว</translation>
+    </message>
+    <message>
+        <source>Location_Warning_Title</source>
+        <translation>นโยบายความเป็นส่วนตัว</translation>
+    </message>
+    <message>
+        <source>Location_Warning_Content</source>
+        <translation>Prismveil - NORVALEX ต้องการใช้ตำแหน่งปัจจุบันของคุณเพื่อแสดงเวลาและสภาพอากาศ</translation>
+    </message>
+    <message>
+        <source>Location_Not_Remind</source>
+        <translation>อนุญาต</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ตกลง</translation>
+    </message>
+</context>
 </TS>

@@ -1,4 +1,486 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en_US">
+<context>
+    <name>Clean_View</name>
+    <message>
+        <source>Clean</source>
+        <translation>清理</translation>
+    </message>
+</context>
+<context>
+    <name>Information_Slots_View</name>
+    <message>
+        <source>Type:</source>
+        <translation>類型：</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>容量：</translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>頻率：</translation>
+    </message>
+    <message>
+        <source>Temperature:</source>
+        <translation>溫度：</translation>
+    </message>
+</context>
+<context>
+    <name>Information_View</name>
+    <message>
+        <source>Channel:</source>
+        <translation>通道：</translation>
+    </message>
+    <message>
+        <source>CAS# Latency (CL):</source>
+        <translation>CAS# 延遲 (CL)：</translation>
+    </message>
+    <message>
+        <source>RAS# to CAS# Delay (tRCD):</source>
+        <translation>RAS# 至 CAS# 延遲 (tRCD)：</translation>
+    </message>
+    <message>
+        <source>Frequency:</source>
+        <translation>頻率：</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>負載</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+</context>
+<context>
+    <name>Lighting_View</name>
+    <message>
+        <source>Flow</source>
+        <translation>流動</translation>
+    </message>
+    <message>
+        <source>RGB Spectrum</source>
+        <translation>RGB 光譜</translation>
+    </message>
+    <message>
+        <source>Ripple</source>
+        <translation>漣漪</translation>
+    </message>
+    <message>
+        <source>Blink</source>
+        <translation>閃爍</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>脈衝</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>波浪</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>恆亮</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>電影</translation>
+    </message>
+    <message>
+        <source>Gaming</source>
+        <translation>遊戲</translation>
+    </message>
+    <message>
+        <source>Party</source>
+        <translation>派對</translation>
+    </message>
+    <message>
+        <source>Mobile_Movie</source>
+        <translation>行動電影</translation>
+    </message>
+    <message>
+        <source>Mobile_Gaming</source>
+        <translation>行動遊戲</translation>
+    </message>
+    <message>
+        <source>Mobile_Party</source>
+        <translation>行動派對</translation>
+    </message>
+    <message>
+        <source>Temp.</source>
+        <translation>溫度</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>交叉</translation>
+    </message>
+    <message>
+        <source>Hello</source>
+        <translation>問候</translation>
+    </message>
+    <message>
+        <source>Shooting Star</source>
+        <translation>流星</translation>
+    </message>
+    <message>
+        <source>Black Hole</source>
+        <translation>黑洞</translation>
+    </message>
+    <message>
+        <source>Aurora</source>
+        <translation>極光</translation>
+    </message>
+    <message>
+        <source>RGB Sync</source>
+        <translation>RGB 同步</translation>
+    </message>
+    <message>
+        <source>Twinkle</source>
+        <translation>閃耀</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>腳本</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>天氣</translation>
+    </message>
+    <message>
+        <source>Raindrop</source>
+        <translation>雨滴</translation>
+    </message>
+    <message>
+        <source>Heartbeat</source>
+        <translation>心跳</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>堆疊</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>掃描</translation>
+    </message>
+    <message>
+        <source>Swirl</source>
+        <translation>漩渦</translation>
+    </message>
+    <message>
+        <source>Screen Gaming</source>
+        <translation>螢幕遊戲</translation>
+    </message>
+    <message>
+        <source>Screen Movie</source>
+        <translation>螢幕電影</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>時鐘</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>下雨</translation>
+    </message>
+    <message>
+        <source>Fireworks</source>
+        <translation>煙火</translation>
+    </message>
+    <message>
+        <source>Explosion</source>
+        <translation>爆炸</translation>
+    </message>
+    <message>
+        <source>MB Sync</source>
+        <translation>主機板同步</translation>
+    </message>
+    <message>
+        <source>Radiation</source>
+        <translation>輻射</translation>
+    </message>
+    <message>
+        <source>Aim</source>
+        <translation>瞄準</translation>
+    </message>
+    <message>
+        <source>RGB</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>單色</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>隨機</translation>
+    </message>
+    <message>
+        <source>Extreme</source>
+        <translation>極速</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>快</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>慢</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>設定檔</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>套用</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>預設</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編輯</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>預覽</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>色彩模式</translation>
+    </message>
+    <message>
+        <source>Light Speed</source>
+        <translation>燈效速度</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>Light Switch</source>
+        <translation>燈光開關</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>MB_Sync_Warning_Content</source>
+        <translation>此模組正跟隨主機板的燈光軟體，請在該軟體中設定它的燈光。</translation>
+    </message>
+</context>
+<context>
+    <name>Loading_View</name>
+    <message>
+        <source>Can not Find QX NORVALEX</source>
+        <translation>找不到 NORVALEX 記憶體模組</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+</context>
+<context>
+    <name>Main_View</name>
+    <message>
+        <source>Information</source>
+        <translation>資訊</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>燈光</translation>
+    </message>
+    <message>
+        <source>Notification</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+</context>
+<context>
+    <name>Noti_View</name>
+    <message>
+        <source>Setting Notification</source>
+        <translation>設定通知</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>負載</translation>
+    </message>
+    <message>
+        <source>Trigger all LED </source>
+        <translation>將所有 LED 切換為</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>記憶體</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Shutdown PC</source>
+        <translation>提示使用者關閉電腦以避免損壞</translation>
+    </message>
+    <message>
+        <source>Set all fans to 100%</source>
+        <translation>將所有風扇設為全速</translation>
+    </message>
+</context>
+<context>
+    <name>Setting_View</name>
+    <message>
+        <source>en</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>tc</source>
+        <translation>正體中文</translation>
+    </message>
+    <message>
+        <source>sc</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>de</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>fr</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>jp</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>th</source>
+        <translation>ไทย</translation>
+    </message>
+    <message>
+        <source>ru</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>kr</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>es</source>
+        <translation>Spanish</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>Auto Update</source>
+        <translation>自動更新</translation>
+    </message>
+    <message>
+        <source>Run NORVALEX RGB Program when Windows starts.</source>
+        <translation>系統啟動後最小化</translation>
+    </message>
+    <message>
+        <source>Current_Location</source>
+        <translation>開啟定位服務以接收當地天氣資訊</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Language</name>
+    <message>
+        <source>en</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>tc</source>
+        <translation>正體中文</translation>
+    </message>
+    <message>
+        <source>sc</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>de</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>fr</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>jp</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>th</source>
+        <translation>ไทย</translation>
+    </message>
+    <message>
+        <source>ru</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>kr</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>es</source>
+        <translation>Spanish</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_LocationPolicy</name>
+    <message>
+        <source>NORVALEX Privacy Policy</source>
+        <translation>隱私權政策</translation>
+    </message>
+    <message>
+        <source>Location_Warning_Title</source>
+        <translation>隱私權政策</translation>
+    </message>
+    <message>
+        <source>Location_Warning_Content</source>
+        <translation>Prismveil - NORVALEX 想要使用您目前的位置，以取得時間與天氣資訊。</translation>
+    </message>
+    <message>
+        <source>Location_Not_Remind</source>
+        <translation>允許</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+</context>
 </TS>
