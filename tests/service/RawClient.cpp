@@ -14,15 +14,11 @@ void RawClient::sendBytes(const QByteArray& bytes)
     socket_.flush();
 }
 
-void RawClient::sendBytes(const std::vector<uint8_t>& bytes)
+uint32_t RawClient::send(nxproto::Request request)
 {
-    sendBytes(QByteArray(reinterpret_cast<const char*>(bytes.data()), int(bytes.size())));
-}
-
-uint32_t RawClient::send(nxproto::Request request, uint32_t seq)
-{
-    request.seq = seq != 0 ? seq : nextSeq_++;
-    sendBytes(nxproto::encodeRequest(request));
+    request.seq = nextSeq_++;
+    const std::vector<uint8_t> frame = nxproto::encodeRequest(request);
+    sendBytes(QByteArray(reinterpret_cast<const char*>(frame.data()), int(frame.size())));
     return request.seq;
 }
 
@@ -32,14 +28,10 @@ bool RawClient::nextFrame(nxproto::Frame* frame, int timeoutMs)
     clock.start();
     for (;;) {
         const auto status = decoder_.next(*frame);
-        if (status == nxproto::FrameDecoder::Status::Frame)
-            return true;
-        if (status == nxproto::FrameDecoder::Status::Error)
-            return false;
+        if (status != nxproto::FrameDecoder::Status::NeedMore)
+            return status == nxproto::FrameDecoder::Status::Frame;
         const qint64 left = timeoutMs - clock.elapsed();
-        if (left <= 0)
-            return false;
-        if (socket_.bytesAvailable() == 0 && !socket_.waitForReadyRead(int(left)))
+        if (left <= 0 || (socket_.bytesAvailable() == 0 && !socket_.waitForReadyRead(int(left))))
             return false;
         const QByteArray bytes = socket_.readAll();
         decoder_.feed(reinterpret_cast<const uint8_t*>(bytes.constData()),
@@ -51,14 +43,9 @@ bool RawClient::waitFor(nxproto::MessageType type, nxproto::Frame* frame, int ti
 {
     QElapsedTimer clock;
     clock.start();
-    nxproto::Frame next;
-    while (clock.elapsed() < timeoutMs) {
-        if (!nextFrame(&next, int(timeoutMs - clock.elapsed())))
-            return false;
-        if (next.type == static_cast<uint16_t>(type)) {
-            *frame = next;
+    while (nextFrame(frame, int(timeoutMs - clock.elapsed()))) {
+        if (frame->type == static_cast<uint16_t>(type))
             return true;
-        }
     }
     return false;
 }
@@ -68,25 +55,8 @@ bool RawClient::waitForState(nxproto::StateMessage* state, uint32_t ackSeq, int 
     QElapsedTimer clock;
     clock.start();
     nxproto::Frame frame;
-    while (clock.elapsed() < timeoutMs) {
-        if (!waitFor(nxproto::MessageType::State, &frame, int(timeoutMs - clock.elapsed())))
-            return false;
+    while (waitFor(nxproto::MessageType::State, &frame, int(timeoutMs - clock.elapsed()))) {
         if (nxproto::decodeState(frame, *state, nullptr) && state->ackSeq >= ackSeq)
-            return true;
-    }
-    return false;
-}
-
-bool RawClient::waitForDisconnected(int timeoutMs)
-{
-    if (socket_.state() == QLocalSocket::UnconnectedState)
-        return true;
-    QElapsedTimer clock;
-    clock.start();
-    while (clock.elapsed() < timeoutMs) {
-        socket_.waitForReadyRead(50);
-        socket_.readAll();
-        if (socket_.state() == QLocalSocket::UnconnectedState)
             return true;
     }
     return false;
@@ -97,20 +67,13 @@ bool RawClient::isConnected() const
     return socket_.state() == QLocalSocket::ConnectedState;
 }
 
-int RawClient::countFor(nxproto::MessageType type, int ms, nxproto::Frame* last)
+int RawClient::countFor(nxproto::MessageType type, int ms)
 {
     QElapsedTimer clock;
     clock.start();
     int count = 0;
     nxproto::Frame frame;
-    while (clock.elapsed() < ms) {
-        if (!nextFrame(&frame, int(ms - clock.elapsed())))
-            break;
-        if (frame.type == static_cast<uint16_t>(type)) {
-            ++count;
-            if (last)
-                *last = frame;
-        }
-    }
+    while (nextFrame(&frame, int(ms - clock.elapsed())))
+        count += frame.type == static_cast<uint16_t>(type);
     return count;
 }

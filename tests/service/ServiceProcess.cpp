@@ -18,15 +18,8 @@ ServiceProcess::ServiceProcess(QString runtimeDir, QString configDir)
 
 ServiceProcess::~ServiceProcess()
 {
-    if (isRunning()) {
-        process_.kill();
-        process_.waitForFinished(3000);
-    }
-}
-
-QString ServiceProcess::executable()
-{
-    return QStringLiteral(NX_CONTROL_EXECUTABLE);
+    if (isRunning())
+        kill();
 }
 
 QProcessEnvironment ServiceProcess::environment() const
@@ -43,39 +36,20 @@ QString ServiceProcess::socketPath() const
     return runtimeDir_ + QLatin1Char('/') + QLatin1String(nxproto::kSocketFileName);
 }
 
-QString ServiceProcess::statePath() const
-{
-    return configDir_ + QStringLiteral("/norvalex/control-state.json");
-}
-
 bool ServiceProcess::start(const QStringList& arguments, int timeoutMs)
 {
     process_.setProcessEnvironment(environment());
-    process_.start(executable(), arguments);
-    if (!process_.waitForStarted(timeoutMs))
-        return false;
+    process_.start(QStringLiteral(NX_CONTROL_EXECUTABLE), arguments);
     QElapsedTimer clock;
     clock.start();
-    while (clock.elapsed() < timeoutMs && isRunning()) {
+    while (process_.waitForStarted(timeoutMs) && clock.elapsed() < timeoutMs && isRunning()) {
         QLocalSocket probe;
         probe.connectToServer(socketPath());
-        if (probe.waitForConnected(100)) {
-            probe.disconnectFromServer();
+        if (probe.waitForConnected(100))
             return true;
-        }
         QThread::msleep(20);
     }
     return false;
-}
-
-int ServiceProcess::runToEnd(const QStringList& arguments, int timeoutMs)
-{
-    process_.setProcessEnvironment(environment());
-    process_.start(executable(), arguments);
-    if (!process_.waitForFinished(timeoutMs))
-        return -1;
-    log_ += process_.readAll();
-    return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
 }
 
 bool ServiceProcess::quitByMessage(int timeoutMs)
@@ -97,20 +71,4 @@ void ServiceProcess::kill()
 {
     ::kill(pid_t(process_.processId()), SIGKILL);
     process_.waitForFinished(3000);
-}
-
-bool ServiceProcess::isRunning() const
-{
-    return process_.state() != QProcess::NotRunning;
-}
-
-qint64 ServiceProcess::pid() const
-{
-    return process_.processId();
-}
-
-QByteArray ServiceProcess::log()
-{
-    log_ += process_.readAll();
-    return log_;
 }
