@@ -265,17 +265,6 @@ void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode, int3
     m.turnOff = turnOff;
 }
 
-void Double_setSlotNumber(int32_t index, int32_t value)
-{
-    if (validSlot(index))
-        state().slotNumbers[index] = value;
-}
-
-void Double_setProfile(int32_t profile)
-{
-    state().profile = profile;
-}
-
 COLORREF* Double_softwareRGB(int32_t slot)
 {
     return state().modules[validSlot(slot) ? slot : 0].software;

@@ -18,8 +18,6 @@ NX_DOUBLE_EXPORT void Double_setNotiEvent(const NotiEventData* data);
 NX_DOUBLE_EXPORT void Double_setSetting(SettingData data);
 NX_DOUBLE_EXPORT void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode,
                                          int32_t lightSpeed, uint8_t turnOff);
-NX_DOUBLE_EXPORT void Double_setSlotNumber(int32_t index, int32_t value);
-NX_DOUBLE_EXPORT void Double_setProfile(int32_t profile);
 NX_DOUBLE_EXPORT COLORREF* Double_softwareRGB(int32_t slot);
 
 // Number of calls of one function since the last reset.
