@@ -32,88 +32,88 @@ typedef uint32_t COLORREF;
 #define NX_TEXT_LEN 64
 
 typedef struct MemoryModuleData {
-    int32_t memorySlot;              /*   0 */
-    int32_t reserved4;               /*   4 */
-    int32_t temperature;             /*   8 */
-    char text12[NX_TEXT_LEN];        /*  12 */
-    char modelCode[NX_TEXT_LEN];     /*  76 */
-    int32_t memoryModuleSize;        /* 140 */
-    double frequency;                /* 144 */
-    char type[NX_TEXT_LEN];          /* 152 */
-    char text216[NX_TEXT_LEN];       /* 216 */
-    int32_t ledNum;                  /* 280 */
-    uint8_t lightingOff;             /* 284 */
-    uint8_t pad285[3];               /* 285 */
-    int32_t reserved288;             /* 288 */
-    COLORREF rgb[NX_LED_ARRAY];      /* 292 */
+    int32_t memorySlot;                /*   0 */
+    int32_t reserved4;                 /*   4 */
+    int32_t temperature;               /*   8 */
+    char text12[NX_TEXT_LEN];          /*  12 */
+    char modelCode[NX_TEXT_LEN];       /*  76 */
+    int32_t memoryModuleSize;          /* 140 */
+    double frequency;                  /* 144 */
+    char type[NX_TEXT_LEN];            /* 152 */
+    char text216[NX_TEXT_LEN];         /* 216 */
+    int32_t ledNum;                    /* 280 */
+    uint8_t lightingOff;               /* 284 */
+    uint8_t pad285[3];                 /* 285 */
+    int32_t reserved288;               /* 288 */
+    COLORREF rgb[NX_LED_ARRAY];        /* 292 */
     COLORREF defaultRGB[NX_LED_ARRAY]; /* 340 */
-    COLORREF singleRGB;              /* 388 */
-    float bright[NX_LED_ARRAY];      /* 392 */
-    float singleBright;              /* 440 */
-    uint8_t reserved444;             /* 444 */
-    uint8_t pad445[3];               /* 445 */
-    int32_t lightMode;               /* 448 */
-    int32_t colorMode;               /* 452 */
-    int32_t lightSpeed;              /* 456 */
-    bool turnOff;                    /* 460 */
-    uint8_t reserved461;             /* 461 */
-    uint8_t reserved462[242];        /* 462..703; byte 556 is reserved462[94] */
+    COLORREF singleRGB;                /* 388 */
+    float bright[NX_LED_ARRAY];        /* 392 */
+    float singleBright;                /* 440 */
+    uint8_t reserved444;               /* 444 */
+    uint8_t pad445[3];                 /* 445 */
+    int32_t lightMode;                 /* 448 */
+    int32_t colorMode;                 /* 452 */
+    int32_t lightSpeed;                /* 456 */
+    bool turnOff;                      /* 460 */
+    uint8_t reserved461;               /* 461 */
+    uint8_t reserved462[242];          /* 462..703; byte 556 is reserved462[94] */
 } MemoryModuleData;
 
 typedef struct HWData {
-    int32_t slotIndex[NX_MODULE_COUNT]; /*    0 */
-    int32_t memoryCount;              /*   32 */
-    int32_t slotCount;                /*   36 */
-    int32_t reserved40;               /*   40 */
-    uint8_t pad44[4];                 /*   44 */
-    double frequency;                 /*   48 */
-    char systemText[NX_TEXT_LEN];     /*   56 */
-    double casLatency;                /*  120 */
-    int32_t tRCD;                     /*  128 */
-    int32_t reserved132;              /*  132 */
-    int32_t reserved136;              /*  136 */
-    int32_t channel;                  /*  140 */
-    int32_t physicalMemoryUsed;       /*  144 */
-    int32_t reserved148;              /*  148 */
-    double memoryLoad;                /*  152 */
-    uint8_t reserved160[64];          /*  160 */
+    int32_t slotIndex[NX_MODULE_COUNT];           /*    0 */
+    int32_t memoryCount;                          /*   32 */
+    int32_t slotCount;                            /*   36 */
+    int32_t reserved40;                           /*   40 */
+    uint8_t pad44[4];                             /*   44 */
+    double frequency;                             /*   48 */
+    char systemText[NX_TEXT_LEN];                 /*   56 */
+    double casLatency;                            /*  120 */
+    int32_t tRCD;                                 /*  128 */
+    int32_t reserved132;                          /*  132 */
+    int32_t reserved136;                          /*  136 */
+    int32_t channel;                              /*  140 */
+    int32_t physicalMemoryUsed;                   /*  144 */
+    int32_t reserved148;                          /*  148 */
+    double memoryLoad;                            /*  152 */
+    uint8_t reserved160[64];                      /*  160 */
     MemoryModuleData memoryData[NX_MODULE_COUNT]; /* 224 */
-    uint8_t reserved5856[48];         /* 5856 */
-    uint8_t reserved5904;             /* 5904 */
-    uint8_t pad5905[3];               /* 5905 */
-    uint32_t updateTime;              /* 5908 */
-    uint8_t reserved5912[80];         /* 5912 */
+    uint8_t reserved5856[48];                     /* 5856 */
+    uint8_t reserved5904;                         /* 5904 */
+    uint8_t pad5905[3];                           /* 5905 */
+    uint32_t updateTime;                          /* 5908 */
+    uint8_t reserved5912[80];                     /* 5912 */
 } HWData;
 
 /* Fifteen 32-bit cells; a boolean cell is its low byte, the other three bytes travel unchanged. */
 typedef struct NotiEventData {
-    int32_t reserved0;              /*  0 */
-    int32_t changedItem;            /*  4 */
-    bool loadingSwitch;             /*  8 */
+    int32_t reserved0;   /*  0 */
+    int32_t changedItem; /*  4 */
+    bool loadingSwitch;  /*  8 */
     uint8_t pad9[3];
-    int32_t loadingValue;           /* 12 */
-    COLORREF loadingColor;          /* 16 */
-    int32_t reserved20;             /* 20 */
-    bool shutdownMemorySwitch;      /* 24 */
+    int32_t loadingValue;      /* 12 */
+    COLORREF loadingColor;     /* 16 */
+    int32_t reserved20;        /* 20 */
+    bool shutdownMemorySwitch; /* 24 */
     uint8_t pad25[3];
-    int32_t shutdownMemoryValue;    /* 28 */
-    int32_t shutdownMemoryUnit;     /* 32 */
-    bool fanSpeedSwitch;            /* 36 */
+    int32_t shutdownMemoryValue; /* 28 */
+    int32_t shutdownMemoryUnit;  /* 32 */
+    bool fanSpeedSwitch;         /* 36 */
     uint8_t pad37[3];
-    int32_t fanSpeedValue;          /* 40 */
-    int32_t fanSpeedUnit;           /* 44 */
-    bool shutdownCPUSwitch;         /* 48 */
+    int32_t fanSpeedValue;  /* 40 */
+    int32_t fanSpeedUnit;   /* 44 */
+    bool shutdownCPUSwitch; /* 48 */
     uint8_t pad49[3];
-    int32_t shutdownCPUValue;       /* 52 */
-    int32_t shutdownCPUUnit;        /* 56 */
+    int32_t shutdownCPUValue; /* 52 */
+    int32_t shutdownCPUUnit;  /* 56 */
 } NotiEventData;
 
 typedef struct SettingData {
-    int32_t languageIndex;  /* 0 */
-    bool autoUpdate;        /* 4 */
-    bool autoRun;           /* 5 */
-    bool currentLocation;   /* 6 */
-    uint8_t reserved7;      /* 7 */
+    int32_t languageIndex; /* 0 */
+    bool autoUpdate;       /* 4 */
+    bool autoRun;          /* 5 */
+    bool currentLocation;  /* 6 */
+    uint8_t reserved7;     /* 7 */
 } SettingData;
 
 /* Callbacks the library raises. */
@@ -150,29 +150,29 @@ typedef void (*SetProfile_fn)(int32_t profile);
 
 /* X-macro over the 23 exports, in the order of the interface table: X(name). The type of each
  * is name##_fn. */
-#define NORVALEX_LIGHTING_FUNCTIONS(X) \
-    X(SharedDLL_init)                  \
-    X(RegisterUIEventLightModeFunc)    \
-    X(RegisterUIPreviewEventFunc)      \
-    X(GetValueMemorySlotNumber)        \
-    X(SetSlotNumber)                   \
-    X(SetValueLighting)                \
-    X(SetValueRGB)                     \
-    X(GetValueLightMode)               \
-    X(GetValueColorMode)               \
-    X(GetValueLightSpeed)              \
-    X(GetValueTurnOff)                 \
-    X(GetValueRGB)                     \
-    X(GetValueSingleRGB)               \
-    X(GetValueBright)                  \
-    X(GetValueSingleBright)            \
-    X(GetValueSoftwareRGB)             \
-    X(GetValueHWData)                  \
-    X(GetNotiEvent)                    \
-    X(SetNotiEvent)                    \
-    X(GetSettingValue)                 \
-    X(SetSettingValue)                 \
-    X(GetProfile)                      \
+#define NORVALEX_LIGHTING_FUNCTIONS(X)                                                             \
+    X(SharedDLL_init)                                                                              \
+    X(RegisterUIEventLightModeFunc)                                                                \
+    X(RegisterUIPreviewEventFunc)                                                                  \
+    X(GetValueMemorySlotNumber)                                                                    \
+    X(SetSlotNumber)                                                                               \
+    X(SetValueLighting)                                                                            \
+    X(SetValueRGB)                                                                                 \
+    X(GetValueLightMode)                                                                           \
+    X(GetValueColorMode)                                                                           \
+    X(GetValueLightSpeed)                                                                          \
+    X(GetValueTurnOff)                                                                             \
+    X(GetValueRGB)                                                                                 \
+    X(GetValueSingleRGB)                                                                           \
+    X(GetValueBright)                                                                              \
+    X(GetValueSingleBright)                                                                        \
+    X(GetValueSoftwareRGB)                                                                         \
+    X(GetValueHWData)                                                                              \
+    X(GetNotiEvent)                                                                                \
+    X(SetNotiEvent)                                                                                \
+    X(GetSettingValue)                                                                             \
+    X(SetSettingValue)                                                                             \
+    X(GetProfile)                                                                                  \
     X(SetProfile)
 
 #define NORVALEX_LIGHTING_FUNCTION_COUNT 23

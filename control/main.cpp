@@ -14,8 +14,8 @@
 #include <QMetaObject>
 
 #include <csignal>
-#include <unistd.h>
 #include <cstdio>
+#include <unistd.h>
 
 namespace {
 

@@ -42,7 +42,7 @@ void fillModule(MemoryModuleData& module, int index)
     module.turnOff = false;
 }
 
-}  // namespace
+} // namespace
 
 HWData hwData()
 {
@@ -83,4 +83,4 @@ SettingData setting()
     return data;
 }
 
-}  // namespace DefaultRecords
+} // namespace DefaultRecords

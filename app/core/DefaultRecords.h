@@ -12,4 +12,4 @@ HWData hwData();
 NotiEventData notiEvent();
 SettingData setting();
 
-}  // namespace DefaultRecords
+} // namespace DefaultRecords

@@ -21,4 +21,4 @@ QString fileForIndex(int index)
     return QStringLiteral(":/QXRGBMemory/NORVALEX_") + code + QStringLiteral(".qm");
 }
 
-}  // namespace Languages
+} // namespace Languages

@@ -12,4 +12,4 @@ QString fileForIndex(int index);
 // Short code of the file name ("en", "zh", ...), empty outside 0..9.
 QString codeForIndex(int index);
 
-}  // namespace Languages
+} // namespace Languages

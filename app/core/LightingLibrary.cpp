@@ -14,7 +14,7 @@ bool validSlot(int slot)
     return slot >= 0 && slot < NX_MODULE_COUNT;
 }
 
-}  // namespace
+} // namespace
 
 LightingLibrary::LightingLibrary() : m_fallback(DefaultRecords::hwData()) {}
 
@@ -53,8 +53,8 @@ bool LightingLibrary::isLoaded() const
 QStringList LightingLibrary::missingFunctions() const
 {
     QStringList missing;
-#define NX_MISSING(name)                   \
-    if (!m_##name)                         \
+#define NX_MISSING(name)                                                                           \
+    if (!m_##name)                                                                                 \
         missing << QStringLiteral(#name);
     NORVALEX_LIGHTING_FUNCTIONS(NX_MISSING)
 #undef NX_MISSING
@@ -154,7 +154,8 @@ float* LightingLibrary::GetValueBright(int slot)
 
 float LightingLibrary::GetValueSingleBright(int slot)
 {
-    return m_GetValueSingleBright ? m_GetValueSingleBright(slot) : fallbackModule(slot).singleBright;
+    return m_GetValueSingleBright ? m_GetValueSingleBright(slot)
+                                  : fallbackModule(slot).singleBright;
 }
 
 COLORREF* LightingLibrary::GetValueSoftwareRGB(int slot)

@@ -30,8 +30,8 @@ public:
     int GetValueMemorySlotNumber(int index);
     void SetSlotNumber(int count, int* order);
     void SetValueLighting(int slot, int lightMode, int colorMode, int lightSpeed, bool turnOff);
-    void SetValueRGB(int slot, COLORREF* rgb, float* bright, COLORREF singleRGB,
-                     float singleBright, int count);
+    void SetValueRGB(int slot, COLORREF* rgb, float* bright, COLORREF singleRGB, float singleBright,
+                     int count);
     int GetValueLightMode(int slot);
     int GetValueColorMode(int slot);
     int GetValueLightSpeed(int slot);

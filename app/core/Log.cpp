@@ -34,7 +34,7 @@ QMutex& logMutex()
     return mutex;
 }
 
-}  // namespace
+} // namespace
 
 QString filePath()
 {
@@ -46,7 +46,8 @@ QString formatLine(QtMsgType type, const QMessageLogContext& context, const QStr
     const QString where = QStringLiteral("File:(%1) Line:(%2)")
                               .arg(QString::fromUtf8(context.file ? context.file : ""))
                               .arg(context.line);
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    const QString time =
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
     return QStringLiteral("\u3010%1\u3011%2 %3 %4").arg(time, levelWord(type), message, where);
 }
 
@@ -69,4 +70,4 @@ void install()
     qInstallMessageHandler(messageHandler);
 }
 
-}  // namespace Log
+} // namespace Log

@@ -14,4 +14,4 @@ QString formatLine(QtMsgType type, const QMessageLogContext& context, const QStr
 QString filePath();
 void install();
 
-}  // namespace Log
+} // namespace Log

@@ -36,7 +36,8 @@ bool mutexExists(const std::wstring& name);
 WindowHandle findWindow(const std::wstring& title);
 // SendMessageW: delivered and handled before it returns; a window that does not answer within a
 // bounded time is given up. A null window is accepted and does nothing.
-void sendMessage(WindowHandle window, unsigned message, std::uintptr_t wParam, std::intptr_t lParam);
+void sendMessage(WindowHandle window, unsigned message, std::uintptr_t wParam,
+                 std::intptr_t lParam);
 
 // Receives the messages sent to the window titled `title`. Win32 windows are found by their
 // title and receive through nativeEvent, so there it returns null and does nothing.
@@ -61,4 +62,4 @@ using MessageBoxHook = void (*)(const std::wstring& text, const std::wstring& ca
 void messageBox(const std::wstring& text, const std::wstring& caption, MessageIcon icon);
 void setMessageBoxHook(MessageBoxHook hook);
 
-}  // namespace Platform
+} // namespace Platform

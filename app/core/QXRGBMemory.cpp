@@ -33,7 +33,7 @@ quint32 systemClock()
     return static_cast<quint32>(QDateTime::currentMSecsSinceEpoch() / 1000);
 }
 
-}  // namespace
+} // namespace
 
 std::atomic<bool> QXRGBMemory::s_previewPending{false};
 
@@ -319,7 +319,8 @@ void QXRGBMemory::requestSetSlotNum()
     int order[NX_MODULE_COUNT] = {0, 1, 2, 3, 4, 5, 6, 7};
     for (int i = 0; i < NX_MODULE_COUNT; ++i) {
         order[i] = m_library.GetValueMemorySlotNumber(i);
-        qDebug() << "GetValueMemorySlotNumber(" << i << "):" << m_library.GetValueMemorySlotNumber(i);
+        qDebug() << "GetValueMemorySlotNumber(" << i
+                 << "):" << m_library.GetValueMemorySlotNumber(i);
     }
     if (m_mainView && m_mainView->lighting_View)
         m_mainView->lighting_View->setMemorySlotNumber(NX_MODULE_COUNT, order);
@@ -425,7 +426,8 @@ void QXRGBMemory::changeLanguage(int index)
         m_locationPolicy->retranslate();
 }
 
-// --- native messages ------------------------------------------------------------------------------
+// --- native messages
+// ------------------------------------------------------------------------------
 
 void QXRGBMemory::handleNativeMessage(unsigned message, quintptr wParam, qintptr)
 {
@@ -462,7 +464,8 @@ bool QXRGBMemory::nativeEvent(const QByteArray& eventType, void* message, long* 
 {
 #ifdef Q_OS_WIN
     const MSG* msg = static_cast<const MSG*>(message);
-    if (msg->message >= Platform::kMessageSecondInstance && msg->message <= Platform::kMessageQuitIfOpened)
+    if (msg->message >= Platform::kMessageSecondInstance &&
+        msg->message <= Platform::kMessageQuitIfOpened)
         handleNativeMessage(msg->message, msg->wParam, msg->lParam);
 #endif
     return QMainWindow::nativeEvent(eventType, message, result);

@@ -58,4 +58,4 @@ bool isOpenArgument(int argc, char* argv[])
     return argc > 1 && argv[1] && std::strcmp(argv[1], "open") == 0;
 }
 
-}  // namespace Startup
+} // namespace Startup

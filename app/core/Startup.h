@@ -15,4 +15,4 @@ void startControl();
 // True when the first argument is exactly "open".
 bool isOpenArgument(int argc, char* argv[]);
 
-}  // namespace Startup
+} // namespace Startup

@@ -40,7 +40,7 @@ bool answerTerminal(int argc, char* argv[])
     return false;
 }
 
-}  // namespace
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -54,8 +54,8 @@ int main(int argc, char* argv[])
     Platform::MutexHandle instance = Platform::createMutex(L"NORVALEX RGB.exe", &alreadyRunning);
     if (alreadyRunning) {
         Platform::closeHandle(instance);
-        Platform::sendMessage(Platform::findWindow(L"NORVALEX"), Platform::kMessageSecondInstance, 1,
-                              1);
+        Platform::sendMessage(Platform::findWindow(L"NORVALEX"), Platform::kMessageSecondInstance,
+                              1, 1);
         return 0;
     }
 

@@ -63,7 +63,7 @@ QString windowPath(const std::wstring& title)
 }
 
 struct PosixMutex {
-    std::unique_ptr<QLockFile> lock;  // null when another holder owns the name
+    std::unique_ptr<QLockFile> lock; // null when another holder owns the name
 };
 
 struct Listener {
@@ -106,7 +106,7 @@ void serveConnection(Listener* listener, QLocalSocket* socket)
     QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
 }
 
-}  // namespace
+} // namespace
 
 MutexHandle createMutex(const std::wstring& name, bool* alreadyExists)
 {
@@ -260,4 +260,4 @@ void setMessageBoxHook(MessageBoxHook hook)
     messageBoxHook = hook;
 }
 
-}  // namespace Platform
+} // namespace Platform

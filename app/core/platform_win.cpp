@@ -3,7 +3,8 @@
 #include "Platform.h"
 
 #include <windows.h>
-#include <shellapi.h>
+
+#include <shellapi.h> // after windows.h, which it needs
 
 namespace Platform {
 
@@ -104,4 +105,4 @@ void setMessageBoxHook(MessageBoxHook hook)
 
 static_assert(sizeof(SHELLEXECUTEINFOW) == 112, "SHELLEXECUTEINFOW on 64-bit Windows");
 
-}  // namespace Platform
+} // namespace Platform

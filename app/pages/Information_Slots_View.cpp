@@ -11,7 +11,8 @@
 #include <algorithm>
 
 namespace {
-const char* const kInitialStyle = "QWidget#Information_Slots_View { font-family: Arial; color:white;}";
+const char* const kInitialStyle =
+    "QWidget#Information_Slots_View { font-family: Arial; color:white;}";
 const char* const kLabelStyle = "QLabel {font-family: Arial; color:white; font-size:18px;}";
 
 constexpr int kLabelHeight = 40;

@@ -37,7 +37,8 @@ void Widget_Select_Palette::mousePressEvent(QMouseEvent* event)
     COLORREF colour = 0;
     if (!RGB_Palette::pickColour(event->pos(), size(), &colour))
         return;
-    qDebug() << "弹出色盘取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF) << ((colour >> 16) & 0xFF);
+    qDebug() << "弹出色盘取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF)
+             << ((colour >> 16) & 0xFF);
     emit pressRGB(colour);
 }
 

@@ -30,8 +30,8 @@ inline bool prepare()
 {
     QDir().mkpath(runtimeDir());
     QDir().mkpath(configDir());
-    QFile::setPermissions(runtimeDir(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                            QFileDevice::ExeOwner);
+    QFile::setPermissions(runtimeDir(),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     qputenv("XDG_RUNTIME_DIR", runtimeDir().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", configDir().toLocal8Bit());
     qputenv("HOME", root().path().toLocal8Bit());
@@ -41,4 +41,4 @@ inline bool prepare()
 // Runs before main(), hence before QApplication.
 static const bool prepared = prepare();
 
-}  // namespace TestEnvironment
+} // namespace TestEnvironment

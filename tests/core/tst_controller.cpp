@@ -49,7 +49,7 @@ bool quitsDuring(const std::function<void()>& action)
     return loop.exec() != 99;
 }
 
-}  // namespace
+} // namespace
 
 class tst_Controller : public QObject
 {
@@ -123,8 +123,9 @@ void tst_Controller::freshness()
     Double_setHWData(&hw);
     // The record is not a registered meta-type, so it is read through a direct connection.
     QList<HWData> shown;
-    connect(m_controller.get(), &QXRGBMemory::setHWData, this,
-            [&shown](HWData d) { shown << d; }, Qt::DirectConnection);
+    connect(
+        m_controller.get(), &QXRGBMemory::setHWData, this, [&shown](HWData d) { shown << d; },
+        Qt::DirectConnection);
     m_controller->requestUpdateData();
     QCOMPARE(shown.size(), 1);
     // Stale data is replaced by the default record.
@@ -203,8 +204,9 @@ void tst_Controller::sendsColoursInLibraryArgumentOrder()
     float bright[8] = {1, 1, 1, 1, 0.5f, 0.5f, 0.5f, 0.5f};
     // From the frame's relay signal, as a page's Apply arrives.
     emit m_controller->mainView()->changeColor(6, rgb, 0x00FF00, bright, 0.25f);
-    QCOMPARE(QByteArray(Double_lastCall("SetValueRGB")),
-             QByteArray("6,rgb=10:20:30:40:50:60:70:80,bright=1:1:1:1:0.5:0.5:0.5:0.5,ff00,0.25,8"));
+    QCOMPARE(
+        QByteArray(Double_lastCall("SetValueRGB")),
+        QByteArray("6,rgb=10:20:30:40:50:60:70:80,bright=1:1:1:1:0.5:0.5:0.5:0.5,ff00,0.25,8"));
 
     emit m_controller->mainView()->changeLightMode(1, 6, 1, 2, true);
     QCOMPARE(QByteArray(Double_lastCall("SetValueLighting")), QByteArray("1,6,1,2,1"));
@@ -230,8 +232,9 @@ void tst_Controller::passesNotificationRecordBackUnchanged()
 
     // A page that sends back what it was given.
     Main_View* frame = m_controller->mainView();
-    connect(frame, &Main_View::setNotiData, frame,
-            [frame](NotiEventData d) { emit frame->sendNotiData(d); }, Qt::DirectConnection);
+    connect(
+        frame, &Main_View::setNotiData, frame,
+        [frame](NotiEventData d) { emit frame->sendNotiData(d); }, Qt::DirectConnection);
     emit frame->requestNotiData();
     const NotiEventData back = Double_lastNotiEvent();
     QCOMPARE(Double_callCount("SetNotiEvent"), 1);
@@ -263,9 +266,9 @@ void tst_Controller::readsLightingAndLedNumbers()
     Double_reset();
     Double_setHWData(&hw);
     int received[8] = {};
-    connect(m_controller.get(), &QXRGBMemory::setMemoryLEDNumber, this, [&received](int n, int* leds) {
-        std::memcpy(received, leds, sizeof(int) * size_t(n));
-    });
+    connect(
+        m_controller.get(), &QXRGBMemory::setMemoryLEDNumber, this,
+        [&received](int n, int* leds) { std::memcpy(received, leds, sizeof(int) * size_t(n)); });
     m_controller->requestSetLEDNum();
     QCOMPARE(Double_callCount("GetValueHWData"), 16);
     QCOMPARE(received[0], 8);

@@ -114,8 +114,9 @@ void tst_LightingLibrary::fullLibraryPassesArgumentsThrough()
     COLORREF rgb[8] = {0x1, 0x2, 0x3, 0x4, 0x5, 0x6, 0x7, 0x8};
     float bright[8] = {0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.25f};
     library.SetValueRGB(3, rgb, bright, 0xABCDEF, 0.75f, 8);
-    QCOMPARE(QByteArray(Double_lastCall("SetValueRGB")),
-             QByteArray("3,rgb=1:2:3:4:5:6:7:8,bright=0.5:0.5:0.5:0.5:0.5:0.5:0.5:0.25,abcdef,0.75,8"));
+    QCOMPARE(
+        QByteArray(Double_lastCall("SetValueRGB")),
+        QByteArray("3,rgb=1:2:3:4:5:6:7:8,bright=0.5:0.5:0.5:0.5:0.5:0.5:0.5:0.25,abcdef,0.75,8"));
 
     library.SetValueLighting(2, 31, 2, 3, true);
     QCOMPARE(QByteArray(Double_lastCall("SetValueLighting")), QByteArray("2,31,2,3,1"));

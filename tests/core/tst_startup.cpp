@@ -42,7 +42,7 @@ QProcessEnvironment childEnvironment()
     return env;
 }
 
-}  // namespace
+} // namespace
 
 class tst_Startup : public QObject
 {
@@ -108,12 +108,14 @@ void tst_Startup::logLineFormat()
 {
     const QMessageLogContext noContext;
     const QString line = Log::formatLine(QtDebugMsg, noContext, QStringLiteral("hello %1 world"));
-    const QRegularExpression pattern(QStringLiteral(
-        "^\u3010\\d{4}-\\d{2}-\\d{2} \\d{2}:\\d{2}:\\d{2}\u3011Debug: hello %1 world File:\\(\\) Line:\\(0\\)$"));
+    const QRegularExpression pattern(
+        QStringLiteral("^\u3010\\d{4}-\\d{2}-\\d{2} \\d{2}:\\d{2}:\\d{2}\u3011Debug: hello %1 "
+                       "world File:\\(\\) Line:\\(0\\)$"));
     QVERIFY2(pattern.match(line).hasMatch(), qPrintable(line));
 
     const QMessageLogContext withFile("main.cpp", 42, "f", "default");
-    QVERIFY(Log::formatLine(QtWarningMsg, withFile, "x").endsWith("Warning: x File:(main.cpp) Line:(42)"));
+    QVERIFY(Log::formatLine(QtWarningMsg, withFile, "x")
+                .endsWith("Warning: x File:(main.cpp) Line:(42)"));
     QVERIFY(Log::formatLine(QtCriticalMsg, noContext, "x").contains("\u3011Critical: x"));
     QVERIFY(Log::formatLine(QtFatalMsg, noContext, "x").contains("\u3011Fatal: x"));
     QVERIFY(Log::formatLine(QtInfoMsg, noContext, "x").contains("\u3011Info: x"));

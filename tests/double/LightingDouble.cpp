@@ -79,7 +79,7 @@ bool validSlot(int32_t slot)
     return slot >= 0 && slot < NX_MODULE_COUNT;
 }
 
-}  // namespace
+} // namespace
 
 NX_EXPORT void SharedDLL_init(void)
 {

@@ -42,7 +42,7 @@ void typeInto(QLineEdit* edit, const QString& text)
     QTest::keyClick(edit, Qt::Key_Return);
 }
 
-}  // namespace
+} // namespace
 
 class tst_EndToEnd : public QObject
 {
@@ -66,8 +66,8 @@ void tst_EndToEnd::initTestCase()
     const QString config = m_root.path() + "/config";
     QVERIFY(QDir().mkpath(runtime));
     QVERIFY(QDir().mkpath(config));
-    QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                       QFileDevice::ExeOwner);
+    QFile::setPermissions(runtime,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     // The panel's own platform layer and the library find the service through these.
     qputenv("XDG_RUNTIME_DIR", runtime.toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", config.toLocal8Bit());

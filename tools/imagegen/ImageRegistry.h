@@ -15,7 +15,7 @@ using Painter = QImage (*)();
 std::map<std::string, Painter>& painters();
 bool add(const char* name, Painter painter);
 
-}  // namespace ImageRegistry
+} // namespace ImageRegistry
 
-#define NX_REGISTER_IMAGE(name, function) \
+#define NX_REGISTER_IMAGE(name, function)                                                          \
     static const bool nxImageRegistered_##function = ImageRegistry::add(name, function)

@@ -20,7 +20,7 @@ bool add(const char* name, Painter painter)
     return true;
 }
 
-}  // namespace ImageRegistry
+} // namespace ImageRegistry
 
 int main(int argc, char* argv[])
 {
@@ -32,8 +32,8 @@ int main(int argc, char* argv[])
     const QString outDir = QString::fromLocal8Bit(argv[1]);
     QDir().mkpath(outDir);
     for (const auto& [name, painter] : ImageRegistry::painters()) {
-        const QString path = outDir + QLatin1Char('/') + QString::fromStdString(name) +
-                             QStringLiteral(".png");
+        const QString path =
+            outDir + QLatin1Char('/') + QString::fromStdString(name) + QStringLiteral(".png");
         if (!painter().save(path, "PNG")) {
             std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
             return 1;

@@ -13,14 +13,14 @@ namespace Shapes {
 // with a specular highlight.
 struct KnobLook {
     int size = 19;
-    QColor halo;         // opaque at haloStop, transparent at the image's edge
+    QColor halo; // opaque at haloStop, transparent at the image's edge
     qreal haloStop = 0.6;
-    qreal haloDrop = 0;  // halo shifted down, for a shadow
+    qreal haloDrop = 0; // halo shifted down, for a shadow
     qreal ball = 7.0;
     QColor light, mid, dark;
     qreal midStop = 0.5;
-    QPointF lightFrom;   // offset of the light's centre from the ball's
-    qreal spread = 1.6;  // gradient radius in balls
+    QPointF lightFrom;  // offset of the light's centre from the ball's
+    qreal spread = 1.6; // gradient radius in balls
     QPen outline;
     QPointF shineAt;
     qreal shine = 3.2;
@@ -79,4 +79,4 @@ inline QImage chevron(const QColor& colour)
     return image;
 }
 
-}  // namespace Shapes
+} // namespace Shapes
