@@ -4,30 +4,94 @@
 #include "Messages.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QLocalSocket>
-#include <QString>
+
+inline QByteArray bytesOf(const std::vector<uint8_t>& frame)
+{
+    return QByteArray(reinterpret_cast<const char*>(frame.data()), int(frame.size()));
+}
+
+inline nxproto::Request lightingRequest(int slot, int mode)
+{
+    nxproto::Request request;
+    request.type = nxproto::MessageType::SetLighting;
+    request.slot = slot;
+    request.lightMode = mode;
+    return request;
+}
 
 // A protocol client without the lighting library: sends hand-made bytes and requests, reads
 // the service's frames with blocking waits.
 class RawClient
 {
 public:
-    bool connectTo(const QString& path, int timeoutMs = 2000);
-    void sendBytes(const QByteArray& bytes);
+    bool connectTo(const QString& path)
+    {
+        socket_.connectToServer(path);
+        return socket_.waitForConnected(2000);
+    }
+    bool isConnected() const { return socket_.state() == QLocalSocket::ConnectedState; }
+    void sendBytes(const QByteArray& bytes)
+    {
+        socket_.write(bytes);
+        socket_.flush();
+    }
     // Sends the request with the next seq of this client and returns that seq.
-    uint32_t send(nxproto::Request request);
+    uint32_t send(nxproto::Request request)
+    {
+        request.seq = nextSeq_++;
+        sendBytes(bytesOf(nxproto::encodeRequest(request)));
+        return request.seq;
+    }
 
-    // Waits for the next frame of `type`, dropping others. False on timeout or disconnection.
-    bool waitFor(nxproto::MessageType type, nxproto::Frame* frame, int timeoutMs = 2000);
+    // Waits for the next frame of `type`, dropping others. False on timeout, disconnection or
+    // broken framing.
+    bool waitFor(nxproto::MessageType type, nxproto::Frame* frame, int timeoutMs = 2000)
+    {
+        using Status = nxproto::FrameDecoder::Status;
+        QElapsedTimer clock;
+        clock.start();
+        for (Status status; (status = decoder_.next(*frame)) != Status::Error;) {
+            if (status == Status::Frame) {
+                if (frame->type == uint16_t(type))
+                    return true;
+                continue;
+            }
+            const qint64 left = timeoutMs - clock.elapsed();
+            if (left <= 0 || (!socket_.bytesAvailable() && !socket_.waitForReadyRead(int(left))))
+                return false;
+            const QByteArray bytes = socket_.readAll();
+            decoder_.feed(reinterpret_cast<const uint8_t*>(bytes.constData()),
+                          std::size_t(bytes.size()));
+        }
+        return false;
+    }
     // Waits for a state that acknowledges at least `ackSeq`.
-    bool waitForState(nxproto::StateMessage* state, uint32_t ackSeq = 0, int timeoutMs = 2000);
-    bool isConnected() const;
+    bool waitForState(nxproto::StateMessage* state, uint32_t ackSeq = 0, int timeoutMs = 2000)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        nxproto::Frame frame;
+        while (waitFor(nxproto::MessageType::State, &frame, int(timeoutMs - clock.elapsed()))) {
+            if (nxproto::decodeState(frame, *state, nullptr) && state->ackSeq >= ackSeq)
+                return true;
+        }
+        return false;
+    }
     // Counts frames of `type` arriving during `ms`.
-    int countFor(nxproto::MessageType type, int ms);
+    int countFor(nxproto::MessageType type, int ms)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        nxproto::Frame frame;
+        int count = 0;
+        while (waitFor(type, &frame, int(ms - clock.elapsed())))
+            ++count;
+        return count;
+    }
 
 private:
-    bool nextFrame(nxproto::Frame* frame, int timeoutMs);
-
     QLocalSocket socket_;
     nxproto::FrameDecoder decoder_;
     uint32_t nextSeq_ = 1;

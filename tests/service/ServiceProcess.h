@@ -1,35 +1,75 @@
 #pragma once
 
+#include "Platform.h"
+#include "SocketPath.h"
+
+#include <QElapsedTimer>
+#include <QLocalSocket>
 #include <QProcess>
-#include <QProcessEnvironment>
-#include <QString>
-#include <QStringList>
+#include <QThread>
+
+#include <csignal>
 
 // One norvalex-control process for a test, run with the test's own runtime and config
-// directories.
+// directories; its warnings go to the test's output. Killed if still running at the end.
 class ServiceProcess
 {
 public:
-    ServiceProcess(QString runtimeDir, QString configDir);
-    ~ServiceProcess();
+    ServiceProcess(const QString& runtimeDir, const QString& configDir)
+        : socketPath_(runtimeDir + QLatin1Char('/') + QLatin1String(nxproto::kSocketFileName))
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDir);
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), configDir);
+        env.insert(QStringLiteral("QT_LOGGING_RULES"),
+                   QStringLiteral("*.debug=false;*.info=false"));
+        process_.setProcessEnvironment(env);
+        process_.setProcessChannelMode(QProcess::ForwardedChannels);
+    }
+    ~ServiceProcess()
+    {
+        if (isRunning())
+            kill();
+    }
 
     // Starts and waits until its socket accepts connections.
-    bool start(const QStringList& arguments = {}, int timeoutMs = 5000);
+    bool start(const QStringList& arguments = {})
+    {
+        process_.start(QStringLiteral(NX_CONTROL_EXECUTABLE), arguments);
+        QElapsedTimer clock;
+        clock.start();
+        while (process_.waitForStarted() && isRunning() && clock.elapsed() < 5000) {
+            QLocalSocket probe;
+            probe.connectToServer(socketPath_);
+            if (probe.waitForConnected(100))
+                return true;
+            QThread::msleep(20);
+        }
+        return false;
+    }
     // Message 0x8301 to its window, as the panel sends it.
-    bool quitByMessage(int timeoutMs = 5000);
-    bool terminate(int timeoutMs = 5000);
-    void kill();
+    bool quitByMessage()
+    {
+        const Platform::WindowHandle window = Platform::findWindow(L"NORVALEX RGB Control");
+        Platform::sendMessage(window, Platform::kMessageQuit, 0, 0);
+        return window && process_.waitForFinished(5000);
+    }
+    bool terminate()
+    {
+        process_.terminate();
+        return process_.waitForFinished(5000);
+    }
+    void kill()
+    {
+        ::kill(pid_t(pid()), SIGKILL);
+        process_.waitForFinished(3000);
+    }
     bool isRunning() const { return process_.state() != QProcess::NotRunning; }
     qint64 pid() const { return process_.processId(); }
     int exitCode() const { return process_.exitCode(); }
-    QByteArray log() { return log_ += process_.readAll(); }
-
-    QString socketPath() const;
-    QProcessEnvironment environment() const;
+    QString socketPath() const { return socketPath_; }
 
 private:
-    QString runtimeDir_;
-    QString configDir_;
+    QString socketPath_;
     QProcess process_;
-    QByteArray log_;
 };

@@ -1,6 +1,6 @@
-// Benchmark of the lighting library against a running service: getter latency, one panel
-// refresh worth of getters, setter-to-event latency, and the service's CPU time per preview
-// frame. Starts its own service in temporary runtime and config directories.
+// Benchmark of the lighting library against a service it starts in a temporary directory:
+// getter latency, one panel refresh worth of getters, setter-to-event latency, and the
+// service's CPU time per preview frame.
 
 #include "LightingApi.h"
 #include "RawClient.h"
@@ -10,48 +10,35 @@
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
-#include <QThread>
 
+#include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstdio>
 #include <ctime>
-#include <mutex>
+#include <thread>
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 LightingApi api;
 ServiceProcess* service = nullptr;
+std::atomic<long> events{0};
 
-std::mutex eventMutex;
-std::condition_variable eventArrived;
-long eventCount = 0;
-
-void onLightMode(int32_t)
-{
-    {
-        std::lock_guard<std::mutex> lock(eventMutex);
-        ++eventCount;
-    }
-    eventArrived.notify_all();
-}
-
-double cpuSeconds(qint64 pid)
+double serviceCpuSeconds()
 {
     clockid_t clock;
     timespec time{};
-    if (clock_getcpuclockid(pid_t(pid), &clock) != 0 || clock_gettime(clock, &time) != 0)
-        return 0;
+    if (clock_getcpuclockid(pid_t(service->pid()), &clock) == 0)
+        clock_gettime(clock, &time);
     return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
 }
 
 void BM_GetValueLightMode(benchmark::State& state)
 {
     int slot = 0;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(api.GetValueLightMode(slot));
-        slot = (slot + 1) & 7;
-    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(api.GetValueLightMode(slot++ & 7));
 }
 BENCHMARK(BM_GetValueLightMode);
 
@@ -60,16 +47,15 @@ BENCHMARK(BM_GetValueLightMode);
 void BM_FullRefresh(benchmark::State& state)
 {
     for (auto _ : state) {
-        int sink = api.GetProfile() + api.GetSettingValue().languageIndex;
-        sink += api.GetValueHWData().memoryCount;
-        for (int slot = 0; slot < 8; ++slot) {
-            sink += api.GetValueMemorySlotNumber(slot) + int(api.GetValueSingleBright(slot));
-            sink += int(api.GetValueBright(slot)[0]) + int(api.GetValueSingleRGB(slot));
-            sink += int(api.GetValueRGB(slot)[0]) + api.GetValueTurnOff(slot);
-            sink += api.GetValueLightSpeed(slot) + api.GetValueColorMode(slot);
-            sink += api.GetValueLightMode(slot);
+        benchmark::DoNotOptimize(api.GetProfile() + api.GetSettingValue().languageIndex +
+                                 api.GetValueHWData().memoryCount);
+        for (int s = 0; s < 8; ++s) {
+            benchmark::DoNotOptimize(api.GetValueMemorySlotNumber(s) + api.GetValueLightMode(s) +
+                                     api.GetValueColorMode(s) + api.GetValueLightSpeed(s) +
+                                     api.GetValueTurnOff(s) + api.GetValueSingleRGB(s));
+            benchmark::DoNotOptimize(api.GetValueRGB(s)[0] + api.GetValueBright(s)[0] +
+                                     api.GetValueSingleBright(s));
         }
-        benchmark::DoNotOptimize(sink);
     }
 }
 BENCHMARK(BM_FullRefresh);
@@ -79,20 +65,15 @@ void BM_SetterToEvent(benchmark::State& state)
 {
     int mode = 0;
     for (auto _ : state) {
-        std::unique_lock<std::mutex> lock(eventMutex);
-        const long before = eventCount;
-        lock.unlock();
-        const auto start = std::chrono::steady_clock::now();
-        api.SetValueLighting(7, mode, 0, 2, false);
-        lock.lock();
-        if (!eventArrived.wait_for(lock, std::chrono::seconds(2),
-                                   [&] { return eventCount > before; })) {
-            state.SkipWithError("no event within 2 s");
-            break;
+        const long before = events;
+        const auto start = Clock::now();
+        api.SetValueLighting(7, ++mode % 38, 0, 2, false);
+        while (events == before) {
+            if (Clock::now() - start > std::chrono::seconds(2))
+                return state.SkipWithError("no event within 2 s");
+            std::this_thread::yield();
         }
-        const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
-        state.SetIterationTime(took.count());
-        mode = (mode + 1) % 38;
+        state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
     }
 }
 BENCHMARK(BM_SetterToEvent)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(500);
@@ -101,20 +82,17 @@ BENCHMARK(BM_SetterToEvent)->UseManualTime()->Unit(benchmark::kMicrosecond)->Ite
 void BM_ServiceCpuPerFrame(benchmark::State& state)
 {
     RawClient client;
-    if (!client.connectTo(service->socketPath())) {
-        state.SkipWithError("cannot connect");
-        return;
-    }
     nxproto::Request preview;
     preview.type = nxproto::MessageType::SetPreview;
     preview.preview = true;
+    if (!client.connectTo(service->socketPath()))
+        return state.SkipWithError("cannot connect");
     client.send(preview);
     client.countFor(nxproto::MessageType::Preview, 300);
     for (auto _ : state) {
-        const double before = cpuSeconds(service->pid());
+        const double before = serviceCpuSeconds();
         const int frames = client.countFor(nxproto::MessageType::Preview, 2000);
-        const double cpu = cpuSeconds(service->pid()) - before;
-        state.SetIterationTime(frames > 0 ? cpu / frames : 0);
+        state.SetIterationTime(frames > 0 ? (serviceCpuSeconds() - before) / frames : 0);
         state.counters["frames_per_s"] = frames / 2.0;
     }
 }
@@ -125,26 +103,22 @@ BENCHMARK(BM_ServiceCpuPerFrame)->UseManualTime()->Unit(benchmark::kMicrosecond)
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    QTemporaryDir runtime;
-    QTemporaryDir config;
-    qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", config.path().toLocal8Bit());
-    ServiceProcess process(runtime.path(), config.path());
+    QTemporaryDir dir;
+    qputenv("XDG_RUNTIME_DIR", dir.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", dir.path().toLocal8Bit());
+    ServiceProcess process(dir.path(), dir.path());
     service = &process;
     QString error;
-    if (!runtime.isValid() || !config.isValid() || !api.load(LightingApi::libraryPath(), &error) ||
-        !process.start()) {
+    if (!dir.isValid() || !api.load(&error) || !process.start()) {
         std::fprintf(stderr, "setup failed: %s\n", qPrintable(error));
         return 1;
     }
     api.SharedDLL_init();
-    api.RegisterUIEventLightModeFunc(&onLightMode);
+    api.RegisterUIEventLightModeFunc([](int32_t) { ++events; });
     for (int waited = 0; api.GetValueHWData().memoryCount < 0 && waited < 5000; waited += 10)
-        QThread::msleep(10);
-
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     process.terminate();
-    return 0;
 }

@@ -10,29 +10,15 @@
 #include <stdlib.h>
 #include <time.h>
 
-static void sleepMs(long ms)
-{
-    struct timespec delay = {ms / 1000, (ms % 1000) * 1000000L};
-    nanosleep(&delay, NULL);
-}
-
 int main(int argc, char** argv)
 {
-    if (argc < 2) {
-        fprintf(stderr, "usage: %s LIBRARY [WAIT_MS]\n", argv[0]);
+    void* library = argc == 3 ? dlopen(argv[1], RTLD_NOW | RTLD_LOCAL) : NULL;
+    if (!library) {
+        fprintf(stderr, "usage: %s LIBRARY WAIT_MS (%s)\n", argv[0], argc == 3 ? dlerror() : "");
         return 2;
     }
-    const long waitMs = argc > 2 ? strtol(argv[2], NULL, 10) : 0;
-    void* library = dlopen(argv[1], RTLD_NOW | RTLD_LOCAL);
-    if (!library) {
-        fprintf(stderr, "dlopen failed: %s\n", dlerror());
-        return 1;
-    }
-
     int resolved = 0;
-#define RESOLVE(name)                                                                              \
-    if (dlsym(library, #name))                                                                     \
-        ++resolved;
+#define RESOLVE(name) resolved += dlsym(library, #name) != NULL;
     NORVALEX_LIGHTING_FUNCTIONS(RESOLVE)
 #undef RESOLVE
     printf("resolved=%d\n", resolved);
@@ -44,19 +30,15 @@ int main(int argc, char** argv)
         return 1;
     init();
     init();
-
+    const struct timespec pause = {0, 10000000L};
     HWData data = getHWData();
-    for (long waited = 0; data.memoryCount < 0 && waited < waitMs; waited += 10) {
-        sleepMs(10);
+    for (long waited = strtol(argv[2], NULL, 10); data.memoryCount < 0 && waited > 0;
+         waited -= 10) {
+        nanosleep(&pause, NULL);
         data = getHWData();
     }
-    printf("memoryCount=%d\n", data.memoryCount);
-    printf("slotCount=%d\n", data.slotCount);
-    printf("updateTime=%u\n", data.updateTime);
-    printf("modelCode0=%s\n", data.memoryData[0].modelCode);
-    printf("ledNum0=%d\n", data.memoryData[0].ledNum);
+    printf("memoryCount=%d\nmodelCode0=%s\n", data.memoryCount, data.memoryData[0].modelCode);
     printf("lightMode0=%d\n", getLightMode(0));
-
     dlclose(library);
     printf("unloaded=1\n");
     return resolved == NORVALEX_LIGHTING_FUNCTION_COUNT ? 0 : 1;

@@ -30,201 +30,177 @@ void onLightMode(int32_t changes)
     ++lightModeEvents;
 }
 
+bool waitForEvent(int since)
+{
+    return QTest::qWaitFor([&] { return lightModeEvents > since; }, 3000);
+}
+
 } // namespace
 
 class TestLightingLibrary : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void cleanup();
-    void answersPromptlyWithoutService();
-    void keepsEveryChoiceAcrossRestarts();
-    void profileSwitchRoundTrip();
-    void secondClientSharesTheState();
-    void plainCProgramReadsHardware();
-
-private:
-    bool waitForEvent(int since)
-    {
-        return QTest::qWaitFor([&] { return lightModeEvents > since; }, 3000);
-    }
-    // The state as the service holds it, read by a client of its own.
-    ControlState serviceState();
-
-    QTemporaryDir runtime_;
-    QTemporaryDir config_;
+    // One directory serves as the runtime and config directory of the library and the service.
+    QTemporaryDir dir_;
     LightingApi api_;
     std::unique_ptr<ServiceProcess> service_;
+
+    // The state as the service holds it, read by a client of its own.
+    ControlState serviceState()
+    {
+        RawClient probe;
+        StateMessage state;
+        if (!probe.connectTo(service_->socketPath()) || !probe.waitForState(&state))
+            qWarning("no state from the service");
+        return state.state;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(dir_.isValid());
+        qputenv("XDG_RUNTIME_DIR", dir_.path().toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", dir_.path().toLocal8Bit());
+        QString error;
+        QVERIFY2(api_.load(&error), qPrintable(error));
+        service_ = std::make_unique<ServiceProcess>(dir_.path(), dir_.path());
+    }
+
+    void answersPromptlyWithoutService()
+    {
+        QElapsedTimer clock;
+        clock.start();
+        api_.SharedDLL_init();
+        api_.SharedDLL_init();
+        api_.RegisterUIEventLightModeFunc(&onLightMode);
+        QVERIFY(clock.elapsed() < 50);
+        QCOMPARE(api_.GetValueHWData().memoryCount, -1);
+        // Spread over the library's reconnection attempts; a busy machine may delay a single
+        // call, but a call that waited for a connection would be slow every time.
+        std::vector<qint64> times;
+        for (int round = 0; round < 21; ++round) {
+            clock.start();
+            api_.SetValueLighting(2, 19, 1, 3, round % 2 == 1);
+            api_.GetValueHWData();
+            api_.GetValueLightMode(2);
+            times.push_back(clock.nsecsElapsed());
+            QThread::msleep(10);
+        }
+        std::sort(times.begin(), times.end());
+        QVERIFY2(times[10] < 1'000'000, qPrintable(QString::number(times[10])));
+        QVERIFY2(times.back() < 50'000'000, qPrintable(QString::number(times.back())));
+        QCOMPARE(api_.GetValueLightMode(2), 19);
+        QCOMPARE(api_.GetValueColorMode(2), 1);
+    }
+
+    void keepsEveryChoiceAcrossRestarts()
+    {
+        // What was set while the service was away reaches it once it comes.
+        QVERIFY(service_->start());
+        QVERIFY(QTest::qWaitFor([&] { return serviceState().module(2).lightMode == 19; }, 3000));
+
+        COLORREF colors[8];
+        float bright[8];
+        for (int i = 0; i < 8; ++i) {
+            colors[i] = 0x00100000u + COLORREF(i);
+            bright[i] = float(i) / 10.0f;
+        }
+        int order[8] = {3, 2, 1, 0, 4, 5, 6, 7};
+        NotiEventData noti = {};
+        noti.shutdownMemoryValue = 61;
+        noti.reserved0 = 12345;
+        const SettingData setting{4, false, true, true, 0};
+        api_.SetValueLighting(1, 27, 3, 0, true);
+        api_.SetValueRGB(3, colors, bright, 0x00ABCDEF, 0.3f, 8);
+        api_.SetSlotNumber(8, order);
+        api_.SetNotiEvent(noti);
+        api_.SetSettingValue(setting);
+        QVERIFY(QTest::qWaitFor([&] { return serviceState().setting.languageIndex == 4; }, 3000));
+        QTest::qWait(100); // the library sees its requests acknowledged
+
+        QVERIFY(service_->quitByMessage());
+        QCOMPARE(service_->exitCode(), 0);
+        // The restarted service's whole state replaces the library's copy and raises an event.
+        const int events = lightModeEvents;
+        QVERIFY(service_->start());
+        QVERIFY(waitForEvent(events));
+        QCOMPARE(api_.GetValueLightMode(1), 27);
+        QCOMPARE(api_.GetValueColorMode(1), 3);
+        QCOMPARE(api_.GetValueLightSpeed(1), 0);
+        QCOMPARE(api_.GetValueTurnOff(1), uint8_t(1));
+        QCOMPARE(std::memcmp(api_.GetValueRGB(3), colors, sizeof colors), 0);
+        QCOMPARE(std::memcmp(api_.GetValueBright(3), bright, sizeof bright), 0);
+        QCOMPARE(api_.GetValueSingleRGB(3), COLORREF(0x00ABCDEF));
+        QCOMPARE(api_.GetValueSingleBright(3), 0.3f);
+        for (int i = 0; i < 8; ++i)
+            QCOMPARE(api_.GetValueMemorySlotNumber(i), order[i]);
+        const NotiEventData notiBack = api_.GetNotiEvent();
+        QCOMPARE(std::memcmp(&notiBack, &noti, sizeof noti), 0);
+        const SettingData settingBack = api_.GetSettingValue();
+        QCOMPARE(std::memcmp(&settingBack, &setting, sizeof setting), 0);
+    }
+
+    void profileSwitchRoundTrip()
+    {
+        api_.SetProfile(0);
+        api_.SetValueLighting(0, 3, 1, 1, false);
+        api_.SetProfile(1);
+        QCOMPARE(api_.GetProfile(), 1);
+        QCOMPARE(api_.GetValueLightMode(0), 5); // profile 1 as it came
+        api_.SetValueLighting(0, 14, 2, 3, false);
+        const int events = lightModeEvents;
+        api_.SetProfile(0);
+        QCOMPARE(api_.GetValueLightMode(0), 3);
+        QVERIFY(waitForEvent(events));
+        QTRY_COMPARE(lastLightModeEvent.load() & int(ChangeProfile), int(ChangeProfile));
+        api_.SetProfile(1);
+        QCOMPARE(api_.GetValueLightMode(0), 14);
+
+        ControlState state;
+        QVERIFY(QTest::qWaitFor([&] { return (state = serviceState()).profile == 1; }, 3000));
+        QCOMPARE(state.profiles[0][0].lightMode, 3);
+        QCOMPARE(state.profiles[1][0].lightMode, 14);
+    }
+
+    // Either side's change reaches the other, and raises the event in the library.
+    void secondClientSharesTheState()
+    {
+        RawClient other;
+        QVERIFY(other.connectTo(service_->socketPath()));
+        StateMessage state;
+        QVERIFY(other.waitForState(&state));
+        int events = lightModeEvents;
+        other.send(lightingRequest(6, 24));
+        QVERIFY(waitForEvent(events));
+        QTRY_COMPARE(api_.GetValueLightMode(6), 24);
+        QCOMPARE(lastLightModeEvent.load(), int(ChangeLighting));
+
+        events = lightModeEvents;
+        int order[8] = {0, 1, 2, 3, 7, 6, 5, 4};
+        api_.SetSlotNumber(8, order);
+        QVERIFY(waitForEvent(events));
+        QVERIFY(QTest::qWaitFor(
+            [&] { return other.waitForState(&state, 0, 100) && state.state.slotOrder[4] == 7; },
+            3000));
+        QCOMPARE(state.changes & ChangeSlotOrder, uint32_t(ChangeSlotOrder));
+    }
+
+    void plainCProgramReadsHardware()
+    {
+        api_.SetValueLighting(0, 31, 0, 2, false);
+        QVERIFY(QTest::qWaitFor([&] { return serviceState().module(0).lightMode == 31; }, 3000));
+        QProcess probe;
+        probe.start(QStringLiteral(NX_DLOPEN_PROBE),
+                    {QStringLiteral(NX_LIGHTING_LIBRARY), QStringLiteral("3000")});
+        QVERIFY(probe.waitForFinished(10000));
+        const QByteArray output = probe.readAllStandardOutput();
+        QCOMPARE(probe.exitCode(), 0);
+        for (const char* line : {"resolved=23\n", "memoryCount=4\n", "modelCode0=KX44\n",
+                                 "lightMode0=31\n", "unloaded=1\n"})
+            QVERIFY2(output.contains(line), output.constData());
+    }
 };
-
-void TestLightingLibrary::initTestCase()
-{
-    QVERIFY(runtime_.isValid() && config_.isValid());
-    qputenv("XDG_RUNTIME_DIR", runtime_.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", config_.path().toLocal8Bit());
-    QString error;
-    QVERIFY2(api_.load(LightingApi::libraryPath(), &error), qPrintable(error));
-    service_ = std::make_unique<ServiceProcess>(runtime_.path(), config_.path());
-}
-
-void TestLightingLibrary::cleanup()
-{
-    if (QTest::currentTestFailed())
-        qWarning().noquote() << "service log:\n" << service_->log();
-}
-
-ControlState TestLightingLibrary::serviceState()
-{
-    RawClient probe;
-    StateMessage state;
-    if (!probe.connectTo(service_->socketPath()) || !probe.waitForState(&state))
-        qWarning("no state from the service");
-    return state.state;
-}
-
-void TestLightingLibrary::answersPromptlyWithoutService()
-{
-    QElapsedTimer clock;
-    clock.start();
-    api_.SharedDLL_init();
-    api_.SharedDLL_init();
-    api_.RegisterUIEventLightModeFunc(&onLightMode);
-    QVERIFY(clock.elapsed() < 50);
-    QCOMPARE(api_.GetValueHWData().memoryCount, -1);
-    // Spread over the library's reconnection attempts; a busy machine may delay a single
-    // call, but a call that waited for a connection would be slow every time.
-    std::vector<qint64> times;
-    for (int round = 0; round < 21; ++round) {
-        QElapsedTimer call;
-        call.start();
-        api_.SetValueLighting(2, 19, 1, 3, round % 2 == 1);
-        api_.GetValueHWData();
-        api_.GetValueLightMode(2);
-        times.push_back(call.nsecsElapsed());
-        QThread::msleep(10);
-    }
-    std::sort(times.begin(), times.end());
-    QVERIFY2(times[10] < 1'000'000, qPrintable(QString::number(times[10])));
-    QVERIFY2(times.back() < 50'000'000, qPrintable(QString::number(times.back())));
-    QCOMPARE(api_.GetValueLightMode(2), 19);
-    QCOMPARE(api_.GetValueColorMode(2), 1);
-}
-
-void TestLightingLibrary::keepsEveryChoiceAcrossRestarts()
-{
-    // What was set while the service was away reaches it once it comes.
-    QVERIFY(service_->start());
-    QVERIFY(QTest::qWaitFor([&] { return serviceState().module(2).lightMode == 19; }, 3000));
-
-    COLORREF colors[12];
-    float bright[12];
-    for (int i = 0; i < 12; ++i) {
-        colors[i] = 0x00100000u + COLORREF(i);
-        bright[i] = float(i % 11) / 10.0f;
-    }
-    int order[8] = {3, 2, 1, 0, 4, 5, 6, 7};
-    NotiEventData noti;
-    std::memset(&noti, 0, sizeof noti);
-    noti.shutdownMemoryValue = 61;
-    noti.reserved0 = 12345;
-    const SettingData setting{4, false, true, true, 0};
-    api_.SetValueLighting(1, 27, 3, 0, true);
-    api_.SetValueRGB(3, colors, bright, 0x00ABCDEF, 0.3f, 8);
-    api_.SetSlotNumber(8, order);
-    api_.SetNotiEvent(noti);
-    api_.SetSettingValue(setting);
-    QVERIFY(QTest::qWaitFor([&] { return serviceState().setting.languageIndex == 4; }, 3000));
-    QTest::qWait(100); // the library sees its requests acknowledged
-
-    QVERIFY(service_->quitByMessage());
-    QCOMPARE(service_->exitCode(), 0);
-    // The restarted service's whole state replaces the library's copy and raises an event.
-    const int events = lightModeEvents;
-    QVERIFY(service_->start());
-    QVERIFY(waitForEvent(events));
-    QCOMPARE(api_.GetValueLightMode(1), 27);
-    QCOMPARE(api_.GetValueColorMode(1), 3);
-    QCOMPARE(api_.GetValueLightSpeed(1), 0);
-    QCOMPARE(api_.GetValueTurnOff(1), uint8_t(1));
-    QCOMPARE(std::memcmp(api_.GetValueRGB(3), colors, 8 * sizeof(COLORREF)), 0);
-    QCOMPARE(std::memcmp(api_.GetValueBright(3), bright, 8 * sizeof(float)), 0);
-    QCOMPARE(api_.GetValueSingleRGB(3), COLORREF(0x00ABCDEF));
-    QCOMPARE(api_.GetValueSingleBright(3), 0.3f);
-    for (int i = 0; i < 8; ++i)
-        QCOMPARE(api_.GetValueMemorySlotNumber(i), order[i]);
-    const NotiEventData notiBack = api_.GetNotiEvent();
-    QCOMPARE(std::memcmp(&notiBack, &noti, sizeof noti), 0);
-    const SettingData settingBack = api_.GetSettingValue();
-    QCOMPARE(std::memcmp(&settingBack, &setting, sizeof setting), 0);
-}
-
-void TestLightingLibrary::profileSwitchRoundTrip()
-{
-    api_.SetProfile(0);
-    api_.SetValueLighting(0, 3, 1, 1, false);
-    api_.SetProfile(1);
-    QCOMPARE(api_.GetProfile(), 1);
-    QCOMPARE(api_.GetValueLightMode(0), 5); // profile 1 as it came
-    api_.SetValueLighting(0, 14, 2, 3, false);
-    const int events = lightModeEvents;
-    api_.SetProfile(0);
-    QCOMPARE(api_.GetValueLightMode(0), 3);
-    QVERIFY(waitForEvent(events));
-    QTRY_COMPARE(lastLightModeEvent.load() & int(ChangeProfile), int(ChangeProfile));
-    api_.SetProfile(1);
-    QCOMPARE(api_.GetValueLightMode(0), 14);
-
-    ControlState state;
-    QVERIFY(QTest::qWaitFor([&] { return (state = serviceState()).profile == 1; }, 3000));
-    QCOMPARE(state.profiles[0][0].lightMode, 3);
-    QCOMPARE(state.profiles[1][0].lightMode, 14);
-}
-
-void TestLightingLibrary::secondClientSharesTheState()
-{
-    RawClient other;
-    QVERIFY(other.connectTo(service_->socketPath()));
-    StateMessage state;
-    QVERIFY(other.waitForState(&state));
-
-    // The other client's change reaches the library with an event.
-    int events = lightModeEvents;
-    Request request;
-    request.type = MessageType::SetLighting;
-    request.slot = 6;
-    request.lightMode = 24;
-    other.send(request);
-    QVERIFY(waitForEvent(events));
-    QTRY_COMPARE(api_.GetValueLightMode(6), 24);
-    QCOMPARE(lastLightModeEvent.load(), int(ChangeLighting));
-
-    // The library's change reaches the other client, and raises the event here too.
-    events = lightModeEvents;
-    int order[8] = {0, 1, 2, 3, 7, 6, 5, 4};
-    api_.SetSlotNumber(8, order);
-    QVERIFY(waitForEvent(events));
-    QVERIFY(QTest::qWaitFor(
-        [&] { return other.waitForState(&state, 0, 100) && state.state.slotOrder[4] == 7; }, 3000));
-    QCOMPARE(state.changes & ChangeSlotOrder, uint32_t(ChangeSlotOrder));
-}
-
-void TestLightingLibrary::plainCProgramReadsHardware()
-{
-    api_.SetValueLighting(0, 31, 0, 2, false);
-    QVERIFY(QTest::qWaitFor([&] { return serviceState().module(0).lightMode == 31; }, 3000));
-    QProcess probe;
-    probe.setProcessEnvironment(service_->environment());
-    probe.start(QStringLiteral(NX_DLOPEN_PROBE),
-                {LightingApi::libraryPath(), QStringLiteral("3000")});
-    QVERIFY(probe.waitForFinished(10000));
-    const QByteArray output = probe.readAllStandardOutput();
-    QCOMPARE(probe.exitCode(), 0);
-    for (const char* line : {"resolved=23\n", "memoryCount=4\n", "modelCode0=KX44\n",
-                             "lightMode0=31\n", "unloaded=1\n"})
-        QVERIFY2(output.contains(line), output.constData());
-}
 
 QTEST_GUILESS_MAIN(TestLightingLibrary)
 #include "tst_lightinglibrary.moc"

@@ -3,7 +3,6 @@
 #include <QImage>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTest>
 
 #include <memory>
@@ -14,7 +13,6 @@ constexpr int Slot = 3;
 constexpr COLORREF Green = 0x00FF00;
 constexpr COLORREF Red = 0x0000FF;
 constexpr COLORREF Blue = 0xFF0000;
-constexpr COLORREF Grey = 0x646464;
 
 using Colors = QVector<COLORREF>;
 
@@ -24,7 +22,6 @@ class TestMemoryRgbView : public QObject
 {
     Q_OBJECT
 
-private:
     std::unique_ptr<Memory_RGB_View> strip;
 
     // The colour painted at the centre of each LED.
@@ -34,8 +31,7 @@ private:
         Colors colors;
         for (const QPushButton* led : strip->btn_Led) {
             const QRgb pixel = image.pixel(led->mapTo(strip.get(), led->rect().center()));
-            colors << (COLORREF(qRed(pixel)) | COLORREF(qGreen(pixel)) << 8 |
-                       COLORREF(qBlue(pixel)) << 16);
+            colors << (qRgb(qBlue(pixel), qGreen(pixel), qRed(pixel)) & 0xFFFFFF); // 0x00BBGGRR
         }
         return colors;
     }
@@ -46,8 +42,6 @@ private:
     }
 
 private slots:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void init()
     {
         strip = std::make_unique<Memory_RGB_View>();
@@ -60,76 +54,54 @@ private slots:
 
     void cleanup() { strip.reset(); }
 
-    // In RGB mode a click selects one LED; in single-colour and off mode the whole module.
-    void ledClick_data()
+    // In RGB mode a click selects one LED, in single-colour and off mode the whole module; a
+    // colour lands on the selection while the slot button is checked, and only then.
+    void clickThenColour_data()
     {
         QTest::addColumn<int>("mode");
-        QTest::addColumn<bool>("whole");
         QTest::addColumn<Colors>("shown");
-        QTest::newRow("rgb") << 0 << false << Colors(8, Green);
-        QTest::newRow("single colour") << 1 << true << Colors(8, Red);
-        QTest::newRow("off") << 2 << true << Colors(8, Grey);
+        QTest::addColumn<Colors>("coloured");
+        QTest::addColumn<COLORREF>("single");
+        const Colors led2Blue{Green, Green, Blue, Green, Green, Green, Green, Green};
+        QTest::newRow("rgb") << 0 << Colors(8, Green) << led2Blue << Red;
+        QTest::newRow("single colour") << 1 << Colors(8, Red) << Colors(8, Blue) << Blue;
+        QTest::newRow("off") << 2 << Colors(8, 0x646464) << Colors(8, 0x646464) << Red;
     }
 
-    void ledClick()
+    void clickThenColour()
     {
         QFETCH(int, mode);
-        QFETCH(bool, whole);
         QFETCH(Colors, shown);
+        QFETCH(Colors, coloured);
+        QFETCH(COLORREF, single);
         strip->slot_ChangeColorMode(Slot, mode);
         QSignalSpy selected(strip.get(), &Memory_RGB_View::SelectMemSlot);
-
         QTest::mouseClick(strip->btn_Led[2], Qt::LeftButton);
         for (int i = 0; i < Memory_RGB_View::LedCount; ++i)
-            QCOMPARE(strip->btn_Led[i]->isChecked(), whole || i == 2);
+            QCOMPARE(strip->btn_Led[i]->isChecked(), mode != 0 || i == 2);
         QVERIFY(strip->btn_MemorySlot->isChecked());
         QCOMPARE(shownColors(), shown);
         QCOMPARE(selected.count(), 1);
         QCOMPARE(selected.at(0).at(0).toInt(), Slot);
 
-        // A second click deselects the module.
+        strip->pressRGB(Blue);
+        const Colors stored = storedColors();
+        QCOMPARE(stored, mode == 0 ? coloured : Colors(8, Green));
+        QCOMPARE(strip->singleColor, single);
+        QCOMPARE(shownColors(), coloured);
+
+        // A second click deselects the module; a colour then changes nothing, not even on a
+        // checked LED.
         QTest::mouseClick(strip->btn_Led[2], Qt::LeftButton);
         for (const QPushButton* led : strip->btn_Led)
             QVERIFY(!led->isChecked());
         QVERIFY(!strip->btn_MemorySlot->isChecked());
         QCOMPARE(selected.count(), 2);
-    }
-
-    // LEDs 1 and 2 are checked; the slot button decides whether the colour lands.
-    void pressColor_data()
-    {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<bool>("slotChecked");
-        QTest::addColumn<Colors>("stored");
-        QTest::addColumn<COLORREF>("single");
-        QTest::addColumn<Colors>("shown");
-        const Colors greens(8, Green);
-        Colors twoBlue = greens;
-        twoBlue[1] = twoBlue[2] = Blue;
-        Colors singleShown(8, Red);
-        singleShown[1] = singleShown[2] = Blue;
-        QTest::newRow("rgb, slot unchecked") << 0 << false << greens << Red << greens;
-        QTest::newRow("single, slot unchecked") << 1 << false << greens << Red << Colors(8, Red);
-        QTest::newRow("rgb") << 0 << true << twoBlue << Red << twoBlue;
-        QTest::newRow("single") << 1 << true << greens << Blue << singleShown;
-    }
-
-    void pressColor()
-    {
-        QFETCH(int, mode);
-        QFETCH(bool, slotChecked);
-        QFETCH(Colors, stored);
-        QFETCH(COLORREF, single);
-        QFETCH(Colors, shown);
-        strip->slot_ChangeColorMode(Slot, mode);
-        strip->btn_MemorySlot->setChecked(slotChecked);
-        for (int i = 0; i < Memory_RGB_View::LedCount; ++i)
-            strip->btn_Led[i]->setChecked(i == 1 || i == 2);
-
-        strip->pressRGB(Blue);
+        strip->btn_Led[1]->setChecked(true);
+        strip->pressRGB(0x123456);
         QCOMPARE(storedColors(), stored);
         QCOMPARE(strip->singleColor, single);
-        QCOMPARE(shownColors(), shown);
+        QCOMPARE(shownColors(), coloured);
     }
 
     void defaults_data()

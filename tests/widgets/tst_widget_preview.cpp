@@ -1,8 +1,6 @@
 #include "Widget_Preview.h"
 
-#include <QEvent>
 #include <QImage>
-#include <QStandardPaths>
 #include <QTest>
 
 namespace {
@@ -16,16 +14,12 @@ QRgb toRgb(COLORREF color)
     return qRgb(int(color & 0xFF), int((color >> 8) & 0xFF), int((color >> 16) & 0xFF));
 }
 
-class PaintCounter : public QObject
-{
-public:
+struct CountedPreview : Widget_Preview {
     int paints = 0;
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
+    void paintEvent(QPaintEvent* event) override
     {
-        paints += event->type() == QEvent::Paint;
-        return false;
+        ++paints;
+        Widget_Preview::paintEvent(event);
     }
 };
 
@@ -35,20 +29,7 @@ class TestWidgetPreview : public QObject
 {
     Q_OBJECT
 
-private:
-    COLORREF frames[Widget_Preview::MaxSlots][Widget_Preview::MaxLeds] = {};
-
-    QList<COLORREF*> frameList(int entries)
-    {
-        QList<COLORREF*> list;
-        for (int i = 0; i < entries; ++i)
-            list << frames[i];
-        return list;
-    }
-
 private slots:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void stops_data()
     {
         QTest::addColumn<int>("ledCount");
@@ -88,8 +69,9 @@ private slots:
         preview.setLEDNum(8, leds);
         const int order[8] = {4, 5, 6, 7, 0, 1, 2, 3};
         preview.setSlotsOrder(8, order);
-        std::fill(std::begin(frames[0]), std::end(frames[0]), Red);
-        preview.updatePreviewList(frameList(1));
+        COLORREF frame[Widget_Preview::MaxLeds];
+        std::fill(std::begin(frame), std::end(frame), Red);
+        preview.updatePreviewList({frame});
 
         const QImage image = preview.grab().toImage();
         QCOMPARE(image.pixel(Widget_Preview::barX(4, 8) + 5, 122), toRgb(Red));
@@ -98,29 +80,29 @@ private slots:
 
     void unchangedFramesSkipRepaint()
     {
-        Widget_Preview preview;
+        CountedPreview preview;
         preview.resize(258, 252);
         preview.setSlotNum(4);
         preview.setModuleNum(4);
-        PaintCounter counter;
-        preview.installEventFilter(&counter);
         preview.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preview));
+        COLORREF frames[4][Widget_Preview::MaxLeds] = {};
         std::fill(std::begin(frames[0]), std::end(frames[0]), Red);
         std::fill(std::begin(frames[1]), std::end(frames[1]), Green);
-        preview.updatePreviewList(frameList(4));
-        QTRY_VERIFY(counter.paints > 0);
+        const QList<COLORREF*> list{frames[0], frames[1], frames[2], frames[3]};
+        preview.updatePreviewList(list);
+        QTRY_VERIFY(preview.paints > 0);
         QTest::qWait(50);
 
-        counter.paints = 0;
+        preview.paints = 0;
         for (int repeat = 0; repeat < 5; ++repeat)
-            preview.updatePreviewList(frameList(4));
+            preview.updatePreviewList(list);
         QTest::qWait(50);
-        QCOMPARE(counter.paints, 0);
+        QCOMPARE(preview.paints, 0);
 
         frames[1][6] = Blue;
-        preview.updatePreviewList(frameList(4));
-        QTRY_COMPARE(counter.paints, 1);
+        preview.updatePreviewList(list);
+        QTRY_COMPARE(preview.paints, 1);
     }
 };
 
