@@ -12,28 +12,21 @@
 #include <QtTest>
 
 #include <functional>
-#include <vector>
 
 namespace {
-struct Received {
-    unsigned message;
-    std::uintptr_t wParam;
-    std::intptr_t lParam;
-};
-
+// Each message a window receives as "message wParam lParam", the message in hex.
 void record(void* context, unsigned message, std::uintptr_t wParam, std::intptr_t lParam)
 {
-    static_cast<std::vector<Received>*>(context)->push_back({message, wParam, lParam});
+    *static_cast<QStringList*>(context)
+        << QStringLiteral("%1 %2 %3").arg(message, 0, 16).arg(wParam).arg(lParam);
 }
 
 // Runs `action` inside the application's event loop and tells whether it asked the
 // application to quit. The application's own exec() clears the quit request afterwards.
 bool requestsQuit(const std::function<void()>& action)
 {
-    QTimer guard;
-    guard.setSingleShot(true);
-    QObject::connect(&guard, &QTimer::timeout, []() { QCoreApplication::exit(1); });
-    guard.start(3000);
+    QObject guard; // takes the time-out with it
+    QTimer::singleShot(3000, &guard, []() { QCoreApplication::exit(1); });
     QTimer::singleShot(0, action);
     return QCoreApplication::exec() == 0;
 }
@@ -58,8 +51,8 @@ void TestLoadingView::spinner()
         view.rotate();
         angles << view.spinnerAngle();
     }
-    QCOMPARE(angles, (QList<int>{40, 60, 80, 100, 120, 140, 160, 180, 200, 220, 240, 260, 280,
-                                 300, 320, 340, 0, 20}));
+    QCOMPARE(angles, (QList<int>{40, 60, 80, 100, 120, 140, 160, 180, 200, 220, 240, 260, 280, 300,
+                                 320, 340, 0, 20}));
 
     view.isStartLoading(true);
     QVERIFY(view.isVisible() && view.loading());
@@ -94,8 +87,8 @@ void TestLoadingView::warningFollowsTheLanguage()
 
 void TestLoadingView::closeAppTellsTheRunningPrograms()
 {
-    std::vector<Received> panel;
-    std::vector<Received> control;
+    QStringList panel;
+    QStringList control;
     void* panelWindow = Platform::listenForMessages(L"NORVALEX RGB", &record, &panel);
     void* controlWindow = Platform::listenForMessages(L"NORVALEX RGB Control", &record, &control);
 
@@ -106,7 +99,7 @@ void TestLoadingView::closeAppTellsTheRunningPrograms()
 
     // Neither program holds its name: nobody is told, the application still quits.
     QVERIFY(requestsQuit(clickOK));
-    QVERIFY(panel.empty() && control.empty());
+    QVERIFY(panel.isEmpty() && control.isEmpty());
 
     // Both running: each window gets the quit message with 1, 1.
     bool existed = true;
@@ -115,18 +108,14 @@ void TestLoadingView::closeAppTellsTheRunningPrograms()
     Platform::MutexHandle controlName = Platform::createMutex(L"NORVALEX Control.exe", &existed);
     QVERIFY(!existed);
     QVERIFY(requestsQuit(clickOK));
-    QCOMPARE(int(panel.size()), 1);
-    QCOMPARE(panel[0].message, Platform::kMessageQuit);
-    QCOMPARE(panel[0].wParam, std::uintptr_t(1));
-    QCOMPARE(panel[0].lParam, std::intptr_t(1));
-    QCOMPARE(int(control.size()), 1);
-    QCOMPARE(control[0].message, Platform::kMessageQuit);
+    QCOMPARE(panel, QStringList{"8301 1 1"});
+    QCOMPARE(control, QStringList{"8301 1 1"});
 
     // Only the control service running.
     Platform::closeHandle(panelName);
     QVERIFY(requestsQuit(clickOK));
-    QCOMPARE(int(panel.size()), 1);
-    QCOMPARE(int(control.size()), 2);
+    QCOMPARE(panel.size(), 1);
+    QCOMPARE(control.size(), 2);
 
     Platform::closeHandle(controlName);
     Platform::stopListening(controlWindow);

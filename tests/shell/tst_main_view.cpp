@@ -15,7 +15,6 @@
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTimer>
-#include <QTranslator>
 #include <QtTest>
 
 #include <functional>
@@ -26,17 +25,10 @@ namespace {
 // application to quit. The application's own exec() clears the quit request afterwards.
 bool requestsQuit(const std::function<void()>& action)
 {
-    QTimer guard;
-    guard.setSingleShot(true);
-    QObject::connect(&guard, &QTimer::timeout, []() { QCoreApplication::exit(1); });
-    guard.start(300);
+    QObject guard; // takes the time-out with it
+    QTimer::singleShot(300, &guard, []() { QCoreApplication::exit(1); });
     QTimer::singleShot(0, action);
     return QCoreApplication::exec() == 0;
-}
-
-QLabel* pageLabel(QWidget* page, const char* name)
-{
-    return page->findChild<QLabel*>(QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
 }
 } // namespace
 
@@ -56,8 +48,6 @@ private slots:
     void moduleTypes();
     void slotNumbers_data();
     void slotNumbers();
-    void relays();
-    void languageChange();
     // Last: it quits the application's event loop.
     void nativeMessages();
 
@@ -82,17 +72,13 @@ QStringList TestMainView::requestsFor(QPushButton* entry)
 {
     QStringList requests;
     QObject context;
-    const auto track = [&](void (Main_View::*signal)(), const char* name) {
-        connect(frame.get(), signal, &context, [&requests, name]() { requests << name; });
-    };
-    track(&Main_View::requestSetSlotNum, "slotNum");
-    track(&Main_View::requestSetLEDNum, "ledNum");
-    track(&Main_View::requestSetRGB, "rgb");
-    track(&Main_View::requestSetLighting, "lighting");
-    track(&Main_View::requestSetProfile, "profile");
-    track(&Main_View::requestNotiData, "noti");
-    track(&Main_View::requestSettingData, "setting");
-    track(&Main_View::updateLanguage, "language");
+    const std::pair<void (Main_View::*)(), const char*> tracked[] = {
+        {&Main_View::requestSetSlotNum, "slotNum"},  {&Main_View::requestSetLEDNum, "ledNum"},
+        {&Main_View::requestSetRGB, "rgb"},          {&Main_View::requestSetLighting, "lighting"},
+        {&Main_View::requestSetProfile, "profile"},  {&Main_View::requestNotiData, "noti"},
+        {&Main_View::requestSettingData, "setting"}, {&Main_View::updateLanguage, "language"}};
+    for (const auto& [signal, name] : tracked)
+        connect(frame.get(), signal, &context, [&requests, name = name]() { requests << name; });
     if (entry)
         QTest::mouseClick(entry, Qt::LeftButton);
     else
@@ -100,6 +86,8 @@ QStringList TestMainView::requestsFor(QPushButton* entry)
     return requests;
 }
 
+// Each entry shows its page, created on first use, hides the others and asks the controller for
+// what the page shows; the pages and the controller talk through the frame.
 void TestMainView::pageSwitching()
 {
     frame->show();
@@ -107,20 +95,31 @@ void TestMainView::pageSwitching()
     frame->setSlotNumber(4, 4);
     QVERIFY(frame->information_View && !frame->lighting_View && !frame->noti_View &&
             !frame->setting_View);
-    const QStringList lightingState = {"slotNum", "rgb", "lighting", "profile"};
 
     QCOMPARE(requestsFor(frame->btn_Noti), (QStringList{"noti", "language"}));
     QVERIFY(frame->noti_View->isVisible() && frame->information_View->isHidden());
     QCOMPARE(requestsFor(nullptr), QStringList{"noti"});
+    int loadingValue = 0;
+    connect(frame.get(), &Main_View::sendNotiData, this,
+            [&](NotiEventData sent) { loadingValue = sent.loadingValue; });
+    NotiEventData noti{};
+    noti.loadingValue = 77;
+    emit frame->noti_View->sendNotiData(noti);
+    QCOMPARE(loadingValue, 77);
 
     QCOMPARE(requestsFor(frame->btn_Lighting),
              (QStringList{"slotNum", "ledNum", "rgb", "lighting", "profile", "language"}));
     Lighting_View* lighting = frame->lighting_View;
     QVERIFY(lighting->isVisible() && frame->noti_View->isHidden());
-    QCOMPARE(requestsFor(nullptr), lightingState);
+    QCOMPARE(requestsFor(nullptr), (QStringList{"slotNum", "rgb", "lighting", "profile"}));
     // The menu stays above the wide page created after it.
     QCOMPARE(frame->childAt(frame->btn_Noti->mapTo(frame.get(), QPoint(100, 20))),
              static_cast<QWidget*>(frame->btn_Noti));
+    emit frame->setProfile(2);
+    QVERIFY(lighting->findChild<QPushButton*>("btn_Profile2")->isChecked());
+    QSignalSpy modes(frame.get(), &Main_View::changeLightMode);
+    emit lighting->changeLightMode(2, 31, 1, 3, true);
+    QCOMPARE(modes.value(0), (QVariantList{2, 31, 1, 3, true}));
 
     QCOMPARE(requestsFor(frame->btn_Setting), QStringList{"setting"});
     QVERIFY(frame->setting_View->isVisible() && lighting->isHidden());
@@ -129,19 +128,20 @@ void TestMainView::pageSwitching()
     QCOMPARE(requestsFor(frame->btn_Info), QStringList());
     QVERIFY(frame->information_View->isVisible() && frame->setting_View->isHidden());
     QCOMPARE(requestsFor(nullptr), QStringList());
+    HWData data{};
+    data.memoryLoad = 42.5;
+    emit frame->setHWData(data);
+    QCOMPARE(frame->information_View->findChild<QLabel*>("label_Percent")->text(),
+             QStringLiteral("42.50"));
 
     // Each page is created once.
-    Noti_View* noti = frame->noti_View;
-    Setting_View* setting = frame->setting_View;
+    const QList<QWidget*> created{frame->lighting_View, frame->noti_View, frame->setting_View};
+    const int widgets = frame->findChildren<QWidget*>().size();
     for (QPushButton* entry : {frame->btn_Lighting, frame->btn_Noti, frame->btn_Setting})
         requestsFor(entry);
-    QCOMPARE(frame->lighting_View, lighting);
-    QCOMPARE(frame->noti_View, noti);
-    QCOMPARE(frame->setting_View, setting);
-    QCOMPARE(frame->findChildren<Lighting_View*>().size(), 1);
-    QCOMPARE(frame->findChildren<Noti_View*>().size(), 1);
-    QCOMPARE(frame->findChildren<Setting_View*>().size(), 1);
-    QCOMPARE(frame->findChildren<Information_View*>().size(), 1);
+    QCOMPARE((QList<QWidget*>{frame->lighting_View, frame->noti_View, frame->setting_View}),
+             created);
+    QCOMPARE(frame->findChildren<QWidget*>().size(), widgets);
 
     // Leaving Lighting in the middle of a slot edit cancels the edit, and only then.
     QSignalSpy cancels(lighting->btn_Edit_Cancel, &QPushButton::released);
@@ -156,6 +156,10 @@ void TestMainView::pageSwitching()
     QVERIFY(lighting->btn_Edit_Cancel->isHidden() && !lighting->btn_Edit->isHidden());
     requestsFor(frame->btn_Info);
     QCOMPARE(cancels.count(), 1);
+
+    QSignalSpy closes(frame.get(), &Main_View::slot_Close);
+    QTest::mouseClick(frame->btn_Close, Qt::LeftButton);
+    QCOMPARE(closes.count(), 1);
 }
 
 void TestMainView::dragging_data()
@@ -206,8 +210,8 @@ void TestMainView::moduleTypes_data()
     QTest::newRow("case matters") << QStringList{"kx44"} << false << false;
     QTest::newRow("KX44 inside a model text") << QStringList{none, "NVX-KX44-16G"} << true << true;
     for (const char* code : {"KX31", "KX52", "KX67", "KZ71", "KZ72", "KZ73", "KZ74"})
-        QTest::newRow(code) << QStringList{none, QLatin1String(code) + QLatin1String("-8G")}
-                            << true << false;
+        QTest::newRow(code) << QStringList{none, QLatin1String(code) + QLatin1String("-8G")} << true
+                            << false;
     QTest::newRow("mixed") << QStringList{"KZ74", "OTHER", "KX44"} << true << true;
 }
 
@@ -264,68 +268,6 @@ void TestMainView::slotNumbers()
                  number <= slotCount);
 }
 
-void TestMainView::relays()
-{
-    frame->show();
-    frame->setQXModuleType({"KX44"});
-    frame->setSlotNumber(4, 4);
-
-    // Controller -> frame -> page.
-    HWData data{};
-    data.memoryLoad = 42.5;
-    emit frame->setHWData(data);
-    QCOMPARE(pageLabel(frame->information_View, "label_Percent")->text(), QStringLiteral("42.50"));
-    frame->slot_show_Lighting();
-    emit frame->setProfile(2);
-    QVERIFY(frame->lighting_View->findChild<QPushButton*>("btn_Profile2")->isChecked());
-
-    // Page -> frame -> controller.
-    QList<int> mode;
-    connect(frame.get(), &Main_View::changeLightMode, this,
-            [&](int slot, int lightMode, int colorMode, int speed, bool off) {
-                mode = {slot, lightMode, colorMode, speed, int(off)};
-            });
-    emit frame->lighting_View->changeLightMode(2, 31, 1, 3, true);
-    QCOMPARE(mode, (QList<int>{2, 31, 1, 3, 1}));
-
-    frame->slot_show_Noti();
-    int loadingValue = 0;
-    connect(frame.get(), &Main_View::sendNotiData, this,
-            [&](NotiEventData sent) { loadingValue = sent.loadingValue; });
-    NotiEventData noti{};
-    noti.loadingValue = 77;
-    emit frame->noti_View->sendNotiData(noti);
-    QCOMPARE(loadingValue, 77);
-
-    QSignalSpy closes(frame.get(), &Main_View::slot_Close);
-    QTest::mouseClick(frame->btn_Close, Qt::LeftButton);
-    QCOMPARE(closes.count(), 1);
-}
-
-void TestMainView::languageChange()
-{
-    frame->show();
-    QSignalSpy pagesTold(frame.get(), &Main_View::updateLanguage);
-    QTranslator translator;
-    for (const char* code : {"en", "zh", "cn", "de", "fr", "jp", "th", "ru", "kr", "es"}) {
-        QVERIFY(translator.load(QStringLiteral(":/QXRGBMemory/NORVALEX_%1.qm").arg(code)));
-        QCoreApplication::installTranslator(&translator);
-        frame->updateLanguage_MainView();
-        // The entries are wider than the menu column; the text must fit the visible part.
-        for (QAbstractButton* button : frame->buttonGroup_Menu->buttons()) {
-            const int textWidth = button->fontMetrics().horizontalAdvance(button->text());
-            QVERIFY2(textWidth < frame->widget_Menu->width(), qPrintable(button->text()));
-        }
-        if (qstrcmp(code, "de") == 0) {
-            QCOMPARE(frame->btn_Lighting->text(), QStringLiteral("Beleuchtung"));
-            QCOMPARE(pageLabel(frame->information_View, "label_Dashboard")->text(),
-                     QStringLiteral("Last"));
-        }
-        QCoreApplication::removeTranslator(&translator);
-    }
-    QCOMPARE(pagesTold.count(), 10);
-}
-
 void TestMainView::nativeMessages()
 {
     // 0x8302 brings the window back, also from the task bar.
@@ -350,9 +292,8 @@ void TestMainView::nativeMessages()
     QVERIFY(requestsQuit(message(Platform::kMessageQuitIfOpened, 1)));
     programStarted = false;
     // 0x8301 always quits, here through the platform layer.
-    QVERIFY(requestsQuit([window]() {
-        Platform::sendMessage(window, Platform::kMessageQuit, 1, 1);
-    }));
+    QVERIFY(
+        requestsQuit([window]() { Platform::sendMessage(window, Platform::kMessageQuit, 1, 1); }));
 
     // The frame stops listening when it goes.
     frame.reset();
