@@ -71,10 +71,8 @@ QXRGBMemory::QXRGBMemory(const QString& libraryPath, QWidget* parent)
     m_softwareRGBTimer = new QTimer(this);
     connect(m_softwareRGBTimer, &QTimer::timeout, this, &QXRGBMemory::requestUpdate_SoftwareRGB);
 
-    connect(this, &QXRGBMemory::updatePreview, m_mainView, &Main_View::updatePreview,
-            Qt::DirectConnection);
-    connect(this, &QXRGBMemory::updatePreviewList, m_mainView, &Main_View::updatePreviewList,
-            Qt::DirectConnection);
+    // The preview signals are already among the frame's connections; a second pair would deliver
+    // every preview frame twice.
 
     m_locationPolicy = new Widget_LocationPolicy();
     m_locationPolicy->hide();

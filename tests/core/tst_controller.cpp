@@ -303,8 +303,13 @@ void tst_Controller::handsCallbacksToGuiThread()
     QCOMPARE(previews.at(0).size(), 8);
     QCOMPARE(previews.at(0).at(5), Double_softwareRGB(5));
 
+    // Each frame reaches the frame's relay once.
+    int relayed = 0;
+    connect(m_controller->mainView(), &Main_View::updatePreviewList, this,
+            [&relayed]() { ++relayed; });
     Double_firePreviewEvent(0);
     QCOMPARE(previews.size(), 2);
+    QCOMPARE(relayed, 1);
 }
 
 void tst_Controller::locationDialogAnswersOncePerChoice()
