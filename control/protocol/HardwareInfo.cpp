@@ -1,5 +1,7 @@
 #include "HardwareInfo.h"
 
+#include "DefaultRecords.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -11,34 +13,6 @@ void setText(char (&field)[NX_TEXT_LEN], const std::string& text)
 {
     std::memset(field, 0, sizeof field);
     std::memcpy(field, text.data(), std::min(text.size(), kMaxTextLength));
-}
-
-MemoryModuleData defaultModule(int index)
-{
-    MemoryModuleData module;
-    std::memset(&module, 0, sizeof module);
-    module.memorySlot = -1;
-    module.temperature = -1;
-    setText(module.text12, "N/A");
-    setText(module.modelCode, "N/A");
-    module.memoryModuleSize = -1;
-    module.frequency = -1.0;
-    setText(module.type, "N/A");
-    setText(module.text216, "N/A");
-    module.ledNum = -1;
-    module.reserved288 = -1;
-    std::copy(std::begin(kDefaultColors), std::end(kDefaultColors), module.defaultRGB);
-    std::copy(std::begin(kDefaultColors), std::end(kDefaultColors), module.rgb);
-    module.singleRGB = 0x0000FF;
-    // The default record sets brightness by module index: a 1.0 on the diagonal only.
-    if (index < kLedCount)
-        module.bright[index] = 1.0f;
-    module.singleBright = 1.0f;
-    module.lightMode = 5;
-    module.colorMode = 0;
-    module.lightSpeed = 2;
-    module.turnOff = false;
-    return module;
 }
 
 bool sameModule(const ModuleInfo& a, const ModuleInfo& b)
@@ -66,26 +40,7 @@ bool operator==(const HardwareInfo& a, const HardwareInfo& b)
 
 HWData defaultHWData()
 {
-    HWData data;
-    std::memset(&data, 0, sizeof data);
-    std::fill(std::begin(data.slotIndex), std::end(data.slotIndex), -1);
-    data.memoryCount = -1;
-    data.slotCount = 0;
-    data.reserved40 = -1;
-    data.frequency = -1.0;
-    setText(data.systemText, "N/A");
-    data.casLatency = -1.0;
-    data.tRCD = -1;
-    data.reserved132 = -1;
-    data.reserved136 = -1;
-    data.channel = -1;
-    data.physicalMemoryUsed = -1;
-    data.reserved148 = -1;
-    data.memoryLoad = -1.0;
-    for (int i = 0; i < kSlotCount; ++i)
-        data.memoryData[i] = defaultModule(i);
-    data.updateTime = 0;
-    return data;
+    return DefaultRecords::hwData();
 }
 
 HWData buildHWData(const HardwareInfo& hardware, const ControlState& state)

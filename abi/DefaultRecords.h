@@ -2,7 +2,8 @@
 
 #include "norvalex_lighting.h"
 
-// The records the panel falls back on when the lighting library is missing or its data is stale.
+// The default records: what the panel shows when the lighting library is missing or its data is
+// stale, and what our library answers before its service has.
 namespace DefaultRecords {
 
 // Top-level numbers -1, texts "N/A", updateTime 0; every module with the default lighting state.
