@@ -13,8 +13,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDebug>
-#include <QLabel>
-#include <QPushButton>
 #include <QThread>
 #include <QTimer>
 #include <QTranslator>
@@ -35,6 +33,7 @@ quint32 systemClock()
 
 } // namespace
 
+std::atomic<bool> QXRGBMemory::s_refreshPending{false};
 std::atomic<bool> QXRGBMemory::s_previewPending{false};
 
 QXRGBMemory::QXRGBMemory(const QString& libraryPath, QWidget* parent)
@@ -68,8 +67,6 @@ QXRGBMemory::QXRGBMemory(const QString& libraryPath, QWidget* parent)
     m_pollTimer = new QTimer(this);
     connect(m_pollTimer, &QTimer::timeout, this, &QXRGBMemory::requestUpdateData);
     m_pollTimer->start(kPollIntervalMs);
-    m_softwareRGBTimer = new QTimer(this);
-    connect(m_softwareRGBTimer, &QTimer::timeout, this, &QXRGBMemory::requestUpdate_SoftwareRGB);
 
     // The preview signals are already among the frame's connections; a second pair would deliver
     // every preview frame twice.
@@ -158,45 +155,36 @@ void QXRGBMemory::setControlLauncher(std::function<void()> launcher)
 
 // --- library callbacks --------------------------------------------------------------------------
 
-void QXRGBMemory::runOnGuiThread(const std::function<void()>& work)
+void QXRGBMemory::runOnGuiThread(std::atomic<bool>& pending, void (QXRGBMemory::*handler)())
 {
     QCoreApplication* app = QCoreApplication::instance();
     if (!app || QThread::currentThread() == app->thread()) {
-        work();
+        if (controllerInstance)
+            (controllerInstance->*handler)();
         return;
     }
-    QMetaObject::invokeMethod(app, work, Qt::QueuedConnection);
+    if (pending.exchange(true))
+        return;
+    QMetaObject::invokeMethod(
+        app,
+        [&pending, handler]() {
+            pending = false;
+            if (controllerInstance)
+                (controllerInstance->*handler)();
+        },
+        Qt::QueuedConnection);
 }
 
 void QXRGBMemory::onLightModeEvent(int32_t value)
 {
     qDebug() << "oryControl::my_receive" << value;
-    runOnGuiThread([]() {
-        if (controllerInstance)
-            controllerInstance->receiveRefreshView();
-    });
+    runOnGuiThread(s_refreshPending, &QXRGBMemory::receiveRefreshView);
 }
 
 void QXRGBMemory::onPreviewEvent()
 {
     qDebug() << "receivePreview_Event" << QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
-    QCoreApplication* app = QCoreApplication::instance();
-    if (app && QThread::currentThread() != app->thread()) {
-        // A frame still waiting for the GUI thread already shows the newest colours when it runs.
-        if (s_previewPending.exchange(true))
-            return;
-        QMetaObject::invokeMethod(
-            app,
-            []() {
-                s_previewPending = false;
-                if (controllerInstance)
-                    controllerInstance->requestUpdate_SoftwareRGB();
-            },
-            Qt::QueuedConnection);
-        return;
-    }
-    if (controllerInstance)
-        controllerInstance->requestUpdate_SoftwareRGB();
+    runOnGuiThread(s_previewPending, &QXRGBMemory::requestUpdate_SoftwareRGB);
 }
 
 void QXRGBMemory::receiveRefreshView()

@@ -12,8 +12,6 @@
 #include <functional>
 
 class Main_View;
-class QLabel;
-class QPushButton;
 class QTimer;
 class QTranslator;
 class Widget_LocationPolicy;
@@ -95,27 +93,24 @@ private:
     void loadLibrary(const QString& libraryPath);
     void connectFrame();
     // Hands a library callback to the GUI thread unless it already runs there.
-    static void runOnGuiThread(const std::function<void()>& work);
+    // Runs a handler at once on the GUI thread. From another thread it is handed over, with at
+    // most one hand-off of each kind waiting: a handler that runs later reads the newest state.
+    static void runOnGuiThread(std::atomic<bool>& pending, void (QXRGBMemory::*handler)());
     static void onLightModeEvent(int32_t value);
     static void onPreviewEvent();
 
     Main_View* m_mainView = nullptr;
-    const qint64 m_reserved10000 = 10000;
-    const qint64 m_reserved10001 = 10001;
     QTimer* m_pollTimer = nullptr;
-    QTimer* m_softwareRGBTimer = nullptr;
     bool m_restartTried = false;
     QTranslator* m_translator = nullptr;
     bool m_initDone = false;
-    // Motherboard-sync warning controls: never created, their texts are set only if they exist.
-    QLabel* m_mbSyncLabel = nullptr;
-    QPushButton* m_mbSyncButton = nullptr;
     Widget_LocationPolicy* m_locationPolicy = nullptr;
     QList<COLORREF*> m_softwareRGB;
 
     LightingLibrary m_library;
     std::function<quint32()> m_clock;
     std::function<void()> m_controlLauncher;
-    // Set while a preview hand-off waits in the GUI thread's queue, so frames never pile up.
+    // Set while a hand-off waits in the GUI thread's queue, so events never pile up.
+    static std::atomic<bool> s_refreshPending;
     static std::atomic<bool> s_previewPending;
 };
