@@ -1,5 +1,12 @@
 #include "ControlService.h"
 
+#include "ModuleControllers.h"
+#include "OpenRgbOutput.h"
+#include "OutputSpec.h"
+#include "SdkServer.h"
+
+#include <QCoreApplication>
+#include <QHostAddress>
 #include <QLoggingCategory>
 
 Q_LOGGING_CATEGORY(lcService, "norvalex.control")
@@ -49,6 +56,8 @@ bool ControlService::start(QString* error)
     qCInfo(lcService) << "simulating" << simulation_.modules << "modules with" << simulation_.leds
                       << "LEDs";
 
+    if (!startOpenRgb(error))
+        return false;
     if (!server_.listen(socketPath_, error))
         return false;
     monitor_->start();
@@ -60,6 +69,9 @@ bool ControlService::start(QString* error)
 void ControlService::stop()
 {
     frameTimer_.stop();
+    if (sdkServer_)
+        sdkServer_->close();
+    output_.reset();
     broadcastTimer_.stop();
     if (monitor_)
         monitor_->disconnect(this);
@@ -94,6 +106,12 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
         }
         applied = request.seq;
     }
+    // The user's own change to a module ends an SDK client's direct control of it.
+    if (request.type == nxproto::MessageType::SetLighting ||
+        request.type == nxproto::MessageType::SetColors)
+        direct_.leave(request.slot);
+    else if (request.type == nxproto::MessageType::SetProfile)
+        direct_.leaveAll();
     const uint32_t changes = nxproto::applyRequest(state_, request);
     pendingChanges_ |= changes;
     client.setNeedsAck(true);
@@ -108,7 +126,7 @@ void ControlService::welcome(ClientConnection* client)
     message.changes = nxproto::ChangeAll;
     message.state = state_;
     client->send(nxproto::encodeState(message));
-    client->send(nxproto::encodeHardware(monitor_->info()));
+    client->send(nxproto::encodeHardware(hardwareInfo()));
 }
 
 void ControlService::scheduleBroadcast()
@@ -123,6 +141,8 @@ void ControlService::broadcastState()
     message.changes = pendingChanges_;
     message.state = state_;
     pendingChanges_ = 0;
+    if (sdkServer_ && (message.changes & (nxproto::ChangeLighting | nxproto::ChangeProfile)))
+        sdkServer_->setModules(ModuleControllers::fromHardware(hardwareInfo(), state_));
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
         // A change goes to everyone; a bare acknowledgement only to whom it is owed.
@@ -136,7 +156,10 @@ void ControlService::broadcastState()
 
 void ControlService::broadcastHardware()
 {
-    const std::vector<uint8_t> frame = nxproto::encodeHardware(monitor_->info());
+    const nxproto::HardwareInfo hardware = hardwareInfo();
+    if (sdkServer_)
+        sdkServer_->setModules(ModuleControllers::fromHardware(hardware, state_));
+    const std::vector<uint8_t> frame = nxproto::encodeHardware(hardware);
     const auto clients = server_.clients();
     for (ClientConnection* client : clients)
         client->send(frame);
@@ -146,8 +169,13 @@ void ControlService::renderFrame()
 {
     nxproto::PreviewMessage message;
     message.frame = ++frameNumber_;
-    EffectRenderer::render(state_, monitor_->info(), double(clock_.elapsed()) / 1000.0,
+    EffectRenderer::render(state_, hardwareInfo(), double(clock_.elapsed()) / 1000.0,
                            message.colors);
+    direct_.apply(message.colors);
+    if (sdkServer_)
+        sdkServer_->setFrame(message.colors);
+    if (output_)
+        output_->showFrame(message.colors);
     std::vector<uint8_t> frame;
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
@@ -171,4 +199,54 @@ void ControlService::saveNow()
     saveTimer_.stop();
     if (stateFile_.save(state_, storedSimulation_))
         dirty_ = false;
+}
+
+nxproto::HardwareInfo ControlService::hardwareInfo() const
+{
+    nxproto::HardwareInfo info = monitor_->info();
+    if (output_)
+        output_->report(info);
+    return info;
+}
+
+bool ControlService::startOpenRgb(QString* error)
+{
+    OutputSpec spec;
+    std::string reason;
+    if (OutputSpec::parse(simulation_.output, &spec, &reason) && spec.openrgb) {
+        output_ = std::make_unique<OpenRgbOutput>(QString::fromStdString(spec.host), spec.port);
+        connect(output_.get(), &OpenRgbOutput::modulesChanged, this,
+                &ControlService::broadcastHardware);
+        output_->start();
+    }
+    if (options_.sdkServerHost.isEmpty())
+        return true;
+    const QHostAddress address(options_.sdkServerHost);
+    if (address.isNull()) {
+        *error = QStringLiteral("--sdk-server needs an IP address, not ") + options_.sdkServerHost;
+        return false;
+    }
+    sdkServer_ =
+        std::make_unique<SdkServer>(direct_, QCoreApplication::applicationVersion().toStdString());
+    sdkServer_->setModules(ModuleControllers::fromHardware(hardwareInfo(), state_));
+    connect(sdkServer_.get(), &SdkServer::lightModeRequested, this,
+            &ControlService::applySdkLightMode);
+    return sdkServer_->listen(address, options_.sdkServerPort, error);
+}
+
+void ControlService::applySdkLightMode(int slot, int lightMode, int lightSpeed)
+{
+    nxproto::Request request;
+    request.type = nxproto::MessageType::SetLighting;
+    request.slot = slot;
+    request.lightMode = lightMode;
+    request.colorMode = state_.module(slot).colorMode;
+    request.lightSpeed = lightSpeed;
+    request.turnOff = state_.module(slot).turnOff;
+    if (!nxproto::validateRequest(request).empty())
+        return;
+    pendingChanges_ |= nxproto::applyRequest(state_, request);
+    sdkServer_->setModules(ModuleControllers::fromHardware(hardwareInfo(), state_));
+    scheduleBroadcast();
+    scheduleSave();
 }

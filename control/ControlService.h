@@ -2,6 +2,7 @@
 
 #include "ControlServer.h"
 #include "ControlState.h"
+#include "DirectLighting.h"
 #include "EffectRenderer.h"
 #include "HardwareMonitor.h"
 #include "ServiceOptions.h"
@@ -12,6 +13,9 @@
 #include <QTimer>
 
 #include <memory>
+
+class OpenRgbOutput;
+class SdkServer;
 #include <unordered_map>
 
 // The control service: owns the lighting state, applies the clients' requests, pushes every
@@ -35,6 +39,9 @@ public:
 
     const nxproto::ControlState& state() const { return state_; }
     const SimulationConfig& simulation() const { return simulation_; }
+    // What the service reports: the monitor's facts, with the modules of the output when one
+    // drives real LEDs.
+    nxproto::HardwareInfo hardwareInfo() const;
 
 private:
     void handleRequest(ClientConnection& client, const nxproto::Request& request);
@@ -45,6 +52,8 @@ private:
     void renderFrame();
     void scheduleSave();
     void saveNow();
+    bool startOpenRgb(QString* error);
+    void applySdkLightMode(int slot, int lightMode, int lightSpeed);
 
     ServiceOptions options_;
     QString socketPath_;
@@ -65,4 +74,7 @@ private:
     QTimer frameTimer_;
     QElapsedTimer clock_;
     uint32_t frameNumber_ = 0;
+    DirectLighting direct_;
+    std::unique_ptr<OpenRgbOutput> output_;
+    std::unique_ptr<SdkServer> sdkServer_;
 };

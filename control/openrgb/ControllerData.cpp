@@ -152,7 +152,7 @@ bool readZone(BodyReader& in, uint32_t version, Zone* zone, std::string* error)
         zone->matrixHeight = in.u32();
         zone->matrixWidth = in.u32();
         const std::size_t cells = (matrixSize - 8u) / 4u;
-        if ((matrixSize - 8u) % 4u != 0 ||
+        if ((matrixSize - 8u) % 4u != 0 || matrixSize == 8 ||
             uint64_t(zone->matrixHeight) * zone->matrixWidth != cells)
             return fail(error, "zone matrix size disagrees with its height and width");
         zone->matrix.resize(cells);
@@ -189,8 +189,7 @@ bool Mode::operator==(const Mode& o) const
 
 bool Segment::operator==(const Segment& o) const
 {
-    return name == o.name && type == o.type && startIndex == o.startIndex &&
-           ledCount == o.ledCount;
+    return name == o.name && type == o.type && startIndex == o.startIndex && ledCount == o.ledCount;
 }
 
 bool Zone::operator==(const Zone& o) const
@@ -208,11 +207,10 @@ bool Led::operator==(const Led& o) const
 
 bool Controller::operator==(const Controller& o) const
 {
-    return type == o.type && name == o.name && vendor == o.vendor &&
-           description == o.description && version == o.version && serial == o.serial &&
-           location == o.location && activeMode == o.activeMode && modes == o.modes &&
-           zones == o.zones && leds == o.leds && colors == o.colors &&
-           ledAltNames == o.ledAltNames && flags == o.flags;
+    return type == o.type && name == o.name && vendor == o.vendor && description == o.description &&
+           version == o.version && serial == o.serial && location == o.location &&
+           activeMode == o.activeMode && modes == o.modes && zones == o.zones && leds == o.leds &&
+           colors == o.colors && ledAltNames == o.ledAltNames && flags == o.flags;
 }
 
 int Controller::findMode(const std::string& wanted) const

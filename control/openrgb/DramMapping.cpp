@@ -32,8 +32,8 @@ std::string number(const std::string& text, std::size_t& pos, bool hex)
 
 bool hexAt(const std::string& text, std::size_t pos)
 {
-    return pos + 2 < text.size() && text[pos] == '0' && (text[pos + 1] == 'x' || text[pos + 1] == 'X') &&
-           isHex(text[pos + 2]);
+    return pos + 2 < text.size() && text[pos] == '0' &&
+           (text[pos + 1] == 'x' || text[pos + 1] == 'X') && isHex(text[pos + 2]);
 }
 
 } // namespace

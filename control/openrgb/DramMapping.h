@@ -8,12 +8,12 @@
 
 // A DRAM controller of an OpenRGB server, as the output drives it.
 struct DramModule {
-    uint32_t device = 0;  // index in the server's list
+    uint32_t device = 0; // index in the server's list
     std::string name;
     std::string location;
-    int leds = 0;         // LEDs the controller has
-    int directMode = -1;  // index of its "Direct" mode, -1 when it has none
-    orgb::Mode direct;    // that mode as the server described it
+    int leds = 0;        // LEDs the controller has
+    int directMode = -1; // index of its "Direct" mode, -1 when it has none
+    orgb::Mode direct;   // that mode as the server described it
 };
 
 namespace DramMapping {

@@ -7,14 +7,13 @@ namespace ModuleControllers {
 namespace {
 
 const char* const kNames[kLightModeCount] = {
-    "Flow",          "RGB Spectrum",  "Ripple",       "Blink",         "Pulse",
-    "Wave",          "Static",        "Copy",         "Movie",         "Gaming",
-    "Party",         "Mobile_Movie",  "Mobile_Gaming", "Mobile_Party", "Temp.",
-    "Cross",         "Hello",         "Shooting Star", "Black Hole",   "Aurora",
-    "RGB Sync",      "Twinkle",       "Script",       "Weather",       "Raindrop",
-    "Heartbeat",     "Stack",         "Scan",         "Swirl",         "Screen Gaming",
-    "Screen Movie",  "Clock",         "Rain",         "Fireworks",     "Explosion",
-    "MB Sync",       "Radiation",     "Aim"};
+    "Flow",          "RGB Spectrum", "Ripple",   "Blink",     "Pulse",     "Wave",
+    "Static",        "Copy",         "Movie",    "Gaming",    "Party",     "Mobile_Movie",
+    "Mobile_Gaming", "Mobile_Party", "Temp.",    "Cross",     "Hello",     "Shooting Star",
+    "Black Hole",    "Aurora",       "RGB Sync", "Twinkle",   "Script",    "Weather",
+    "Raindrop",      "Heartbeat",    "Stack",    "Scan",      "Swirl",     "Screen Gaming",
+    "Screen Movie",  "Clock",        "Rain",     "Fireworks", "Explosion", "MB Sync",
+    "Radiation",     "Aim"};
 
 orgb::Mode directMode()
 {
@@ -66,6 +65,25 @@ int lightSpeedFromSdk(uint32_t speed)
 uint32_t sdkSpeedFromLightSpeed(int lightSpeed)
 {
     return kSpeedMax - uint32_t(std::clamp(lightSpeed, 0, int(kSpeedMax)));
+}
+
+std::vector<SdkModule> fromHardware(const nxproto::HardwareInfo& hardware,
+                                    const nxproto::ControlState& state)
+{
+    std::vector<SdkModule> modules;
+    for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
+        const nxproto::ModuleInfo& info = hardware.modules[slot];
+        if (!info.present || info.ledNum <= 0)
+            continue;
+        SdkModule module;
+        module.slot = slot;
+        module.leds = std::min(info.ledNum, nxproto::kLedCount);
+        module.model = info.modelCode;
+        module.lightMode = state.module(slot).lightMode;
+        module.lightSpeed = state.module(slot).lightSpeed;
+        modules.push_back(module);
+    }
+    return modules;
 }
 
 orgb::Controller describe(const SdkModule& module, bool direct, const uint32_t* colors,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ControllerData.h"
+#include "HardwareInfo.h"
 
 #include <cstdint>
 #include <string>
@@ -29,6 +30,10 @@ constexpr int kDirectMode = 0;
 constexpr int kLightModeCount = 38;
 constexpr uint32_t kSpeedMin = 0;
 constexpr uint32_t kSpeedMax = 3;
+
+// The present modules of `hardware`, in slot order, with their lighting from `state`.
+std::vector<SdkModule> fromHardware(const nxproto::HardwareInfo& hardware,
+                                    const nxproto::ControlState& state);
 
 // `colors` holds the module's current colours (at least module.leds of them).
 orgb::Controller describe(const SdkModule& module, bool direct, const uint32_t* colors,

@@ -18,6 +18,7 @@ constexpr qint64 kMinFrameGapNs = 1000000000LL / OpenRgbOutput::kMaxFps;
 } // namespace
 
 constexpr char OpenRgbOutput::kClientName[];
+constexpr char OpenRgbOutput::kModelCode[];
 
 OpenRgbOutput::OpenRgbOutput(QString host, quint16 port, QObject* parent)
     : QObject(parent), host_(std::move(host)), port_(port),
@@ -67,6 +68,26 @@ uint32_t OpenRgbOutput::lastContact() const
 {
     const qint64 ms = connected() ? QDateTime::currentMSecsSinceEpoch() : lastContactMs_;
     return uint32_t(ms / 1000);
+}
+
+void OpenRgbOutput::report(nxproto::HardwareInfo& info) const
+{
+    const int count = int(modules_.size());
+    info.memoryCount = count;
+    info.slotCount = count <= 4 ? 4 : 8;
+    for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
+        nxproto::ModuleInfo& module = info.modules[slot];
+        module = nxproto::ModuleInfo();
+        if (slot >= count)
+            continue;
+        const DramModule& source = modules_[std::size_t(slot)];
+        module.present = true;
+        module.modelCode = kModelCode;
+        module.type = source.name.substr(0, nxproto::kMaxTextLength);
+        module.ledNum = std::min(source.leds, nxproto::kLedCount);
+    }
+    if (!connected())
+        info.updateTime = lastContact();
 }
 
 void OpenRgbOutput::connectNow()
@@ -229,8 +250,7 @@ void OpenRgbOutput::reapply()
 
 void OpenRgbOutput::showFrame(const Colors& frame)
 {
-    std::copy(&frame[0][0], &frame[0][0] + nxproto::kSlotCount * nxproto::kLedCount,
-              &frame_[0][0]);
+    std::copy(&frame[0][0], &frame[0][0] + nxproto::kSlotCount * nxproto::kLedCount, &frame_[0][0]);
     if (!connected() || sendTimer_.isActive())
         return;
     const qint64 since = sinceSend_.isValid() ? sinceSend_.nsecsElapsed() : kMinFrameGapNs;

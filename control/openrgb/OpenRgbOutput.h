@@ -2,6 +2,7 @@
 
 #include "DramMapping.h"
 #include "FrameOutput.h"
+#include "HardwareInfo.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -35,6 +36,8 @@ public:
     static constexpr int kAnswerWaitMs = 10000;
     static constexpr uint32_t kMaxControllers = 256;
     static constexpr char kClientName[] = "NORVALEX RGB";
+    // Given to every module driven through OpenRGB, so that the panel offers its Lighting page.
+    static constexpr char kModelCode[] = "KX44";
 
     OpenRgbOutput(QString host, quint16 port, QObject* parent = nullptr);
     ~OpenRgbOutput() override;
@@ -51,6 +54,9 @@ public:
     // Unix seconds of the last moment the modules were known to be current, 0 before that.
     uint32_t lastContact() const;
     const std::vector<DramModule>& modules() const { return modules_; }
+    // Puts the driven controllers into `info` as its modules (slot i is module i), named after
+    // the controllers; while the server is away the time stamp is that of the last contact.
+    void report(nxproto::HardwareInfo& info) const;
     uint32_t protocolVersion() const { return version_; }
     const QString& address() const { return address_; }
     // UPDATELEDS packets sent so far.

@@ -63,8 +63,7 @@ void SdkServer::setModules(std::vector<SdkModule> modules)
 
 void SdkServer::setFrame(const DirectLighting::Colors& frame)
 {
-    std::copy(&frame[0][0], &frame[0][0] + nxproto::kSlotCount * nxproto::kLedCount,
-              &frame_[0][0]);
+    std::copy(&frame[0][0], &frame[0][0] + nxproto::kSlotCount * nxproto::kLedCount, &frame_[0][0]);
 }
 
 void SdkServer::acceptPending()

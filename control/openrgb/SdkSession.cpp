@@ -23,9 +23,9 @@ SdkSession::SdkSession(QTcpSocket* socket, SdkServer& server, QObject* parent)
 {
     connection_->setHandler([this](const orgb::Packet& packet) { handle(packet); });
     connect(connection_, &SdkConnection::closed, this, [this] {
-        qCInfo(lcOpenRgb).noquote() << connection_->peerName()
-                                    << (name_.isEmpty() ? QString() : "(" + name_ + ")")
-                                    << "disconnected";
+        qCInfo(lcOpenRgb).noquote()
+            << connection_->peerName() << (name_.isEmpty() ? QString() : "(" + name_ + ")")
+            << "disconnected";
         emit finished(this);
     });
 }
@@ -67,16 +67,15 @@ void SdkSession::handle(const orgb::Packet& packet)
         if (!orgb::decodeU32(packet.body, &theirs))
             return reject(QStringLiteral("protocol version request is not 4 bytes"));
         version_ = std::min(theirs, orgb::kProtocolVersion);
-        connection_->send(0, orgb::RequestProtocolVersion,
-                          orgb::encodeU32(orgb::kProtocolVersion));
+        connection_->send(0, orgb::RequestProtocolVersion, orgb::encodeU32(orgb::kProtocolVersion));
         return;
     }
     case orgb::SetClientName: {
         std::string name;
         if (!orgb::decodeName(packet.body, &name))
             return reject(QStringLiteral("client name has no terminating NUL"));
-        name_ = QString::fromUtf8(name.data(), int(std::min<std::size_t>(name.size(),
-                                                                          kMaxNameLength)));
+        name_ =
+            QString::fromUtf8(name.data(), int(std::min<std::size_t>(name.size(), kMaxNameLength)));
         qCInfo(lcOpenRgb).noquote() << connection_->peerName() << "is" << name_;
         return;
     }

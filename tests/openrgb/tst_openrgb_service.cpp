@@ -1,0 +1,238 @@
+// The service's SDK server, run for real: our own output drives it, hostile packets are shut
+// out, a second service drives the first through --output=openrgb, and the openrgb-sdk npm
+// client talks to it.
+
+#include "ControllerData.h"
+#include "Messages.h"
+#include "OpenRgbOutput.h"
+#include "RawClient.h"
+#include "SdkProbe.h"
+#include "ServiceProcess.h"
+#include "TestEnvironment.h"
+
+#include <QtTest>
+
+namespace {
+
+QString dir(const QString& name)
+{
+    const QString path = TestEnvironment::root().path() + QLatin1Char('/') + name;
+    QDir().mkpath(path);
+    QFile::setPermissions(path,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    return path;
+}
+
+QString sdkArgument(quint16 port)
+{
+    return QStringLiteral("--sdk-server=127.0.0.1:%1").arg(port);
+}
+
+bool controllerData(SdkProbe& probe, uint32_t index, orgb::Controller* out)
+{
+    probe.send(index, orgb::RequestControllerData, orgb::encodeU32(orgb::kProtocolVersion));
+    orgb::Packet packet;
+    std::string error;
+    return probe.waitFor(orgb::RequestControllerData, &packet) &&
+           orgb::decodeController(packet.body, orgb::kProtocolVersion, out, &error);
+}
+
+QByteArray bytes(const std::vector<uint8_t>& data)
+{
+    return QByteArray(reinterpret_cast<const char*>(data.data()), int(data.size()));
+}
+
+} // namespace
+
+class TestOpenRgbService : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void outputDrivesOurServer();
+    void hostilePacketsCloseOnlyTheirConnection_data();
+    void hostilePacketsCloseOnlyTheirConnection();
+    void serviceDrivesService();
+    void npmClient();
+};
+
+void TestOpenRgbService::outputDrivesOurServer()
+{
+    const quint16 port = freePort();
+    ServiceProcess service(dir("a/run"), dir("a/config"));
+    QVERIFY(service.start(
+        {sdkArgument(port), QStringLiteral("--modules=4"), QStringLiteral("--leds=8")}));
+
+    OpenRgbOutput output(QStringLiteral("127.0.0.1"), port);
+    output.start();
+    QTRY_VERIFY_WITH_TIMEOUT(output.connected(), 10000);
+    QCOMPARE(output.protocolVersion(), orgb::kProtocolVersion);
+    QCOMPARE(output.modules().size(), std::size_t(4));
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(output.modules()[std::size_t(i)].location, "Slot " + std::to_string(i + 1));
+        QCOMPARE(output.modules()[std::size_t(i)].leds, 8);
+        QCOMPARE(output.modules()[std::size_t(i)].directMode, 0);
+    }
+
+    // The frames we send are what the service's modules then show.
+    FrameOutput::Colors frame = {};
+    for (int slot = 0; slot < 4; ++slot)
+        for (int led = 0; led < 8; ++led)
+            frame[slot][led] = COLORREF(0x010203 * (slot * 8 + led + 1));
+    output.showFrame(frame);
+    SdkProbe probe;
+    QVERIFY(probe.connectTo(port));
+    orgb::Controller seen;
+    QTRY_VERIFY(controllerData(probe, 3, &seen) &&
+                seen.colors == std::vector<orgb::Color>(frame[3], frame[3] + 8));
+    QCOMPARE(seen.activeMode, 0);
+    QCOMPARE(seen.type, int32_t(orgb::DeviceDram));
+    QCOMPARE(seen.modes[0].name, std::string("Direct"));
+    QCOMPARE(seen.modes[6].name, std::string("Wave"));
+}
+
+void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection_data()
+{
+    QTest::addColumn<QByteArray>("packet");
+    std::vector<uint8_t> leds = orgb::encodeLedUpdate({1, 2});
+    leds[0] = 99; // data_size disagrees
+    std::vector<uint8_t> huge = orgb::encodePacket(0, orgb::UpdateLeds);
+    huge[14] = 0x20; // 2 MiB body announced
+    QByteArray magic = bytes(orgb::encodePacket(0, orgb::RequestControllerCount));
+    magic[0] = 'X';
+    QTest::newRow("wrong magic") << magic;
+    QTest::newRow("inner size disagrees") << bytes(orgb::encodePacket(0, orgb::UpdateLeds, leds));
+    QTest::newRow("body past 1 MiB") << bytes(huge);
+    QTest::newRow("unknown id") << bytes(orgb::encodePacket(0, 4242));
+    QTest::newRow("device out of range")
+        << bytes(orgb::encodePacket(2, orgb::UpdateLeds, orgb::encodeLedUpdate({1})));
+    QTest::newRow("LED out of range")
+        << bytes(orgb::encodePacket(0, orgb::UpdateSingleLed, orgb::encodeSingleLedUpdate(5, 1)));
+    QTest::newRow("zone out of range")
+        << bytes(orgb::encodePacket(0, orgb::UpdateZoneLeds, orgb::encodeZoneLedUpdate(1, {1})));
+    QTest::newRow("mode out of range") << bytes(
+        orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)));
+    QTest::newRow("data request of 2 bytes")
+        << bytes(orgb::encodePacket(0, orgb::RequestControllerData, {1, 0}));
+}
+
+void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection()
+{
+    QFETCH(QByteArray, packet);
+    const quint16 port = freePort();
+    ServiceProcess service(dir("h/run"), dir("h/config"));
+    QVERIFY(service.start(
+        {sdkArgument(port), QStringLiteral("--modules=2"), QStringLiteral("--leds=5")}));
+    SdkProbe bystander;
+    QVERIFY(bystander.connectTo(port));
+    SdkProbe attacker;
+    QVERIFY(attacker.connectTo(port));
+    attacker.sendBytes(packet);
+    QVERIFY(attacker.waitForClose());
+    QVERIFY(service.isRunning());
+    bystander.send(0, orgb::RequestControllerCount);
+    orgb::Packet answer;
+    QVERIFY(bystander.waitFor(orgb::RequestControllerCount, &answer));
+    QCOMPARE(answer.body, orgb::encodeU32(2));
+    QVERIFY(service.terminate());
+}
+
+void TestOpenRgbService::serviceDrivesService()
+{
+    // Service A plays the OpenRGB server with two modules; service B drives them, told so by
+    // the "output" key of its state file.
+    const quint16 port = freePort();
+    ServiceProcess a(dir("sa/run"), dir("sa/config"));
+    QVERIFY(
+        a.start({sdkArgument(port), QStringLiteral("--modules=2"), QStringLiteral("--leds=5")}));
+    ServiceProcess b(dir("sb/run"), dir("sb/config"));
+    QVERIFY(b.start({QStringLiteral("--modules=0")}));
+    QVERIFY(b.terminate());
+    QFile state(dir("sb/config") + QStringLiteral("/norvalex/control-state.json"));
+    QVERIFY(state.open(QIODevice::ReadOnly));
+    QByteArray json = state.readAll();
+    state.close();
+    QVERIFY(json.contains("\"output\": \"none\""));
+    json.replace("\"output\": \"none\"",
+                 QStringLiteral("\"output\": \"openrgb:127.0.0.1:%1\"").arg(port).toUtf8());
+    QVERIFY(state.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    state.write(json);
+    state.close();
+    QVERIFY(b.start());
+
+    // B reports A's modules to its panel.
+    RawClient panel;
+    QVERIFY(panel.connectTo(b.socketPath()));
+    nxproto::HardwareInfo info;
+    QTRY_VERIFY_WITH_TIMEOUT(
+        [&] {
+            nxproto::Frame frame;
+            return panel.waitFor(nxproto::MessageType::Hardware, &frame, 1500) &&
+                   nxproto::decodeHardware(frame, info, nullptr) && info.memoryCount == 2;
+        }(),
+        15000);
+    QCOMPARE(info.modules[0].ledNum, 5);
+    QVERIFY(info.modules[1].present);
+    QCOMPARE(info.modules[0].modelCode, std::string("KX44"));
+    QCOMPARE(info.modules[0].type, std::string("NORVALEX DRAM KX44"));
+
+    // B renders its lighting onto A: A's slot 0 goes into Direct mode.
+    SdkProbe probe;
+    QVERIFY(probe.connectTo(port));
+    orgb::Controller seen;
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && seen.activeMode == 0, 10000);
+
+    // A's server going away leaves B running, still reporting the modules.
+    QVERIFY(a.terminate());
+    QTest::qWait(500);
+    QVERIFY(b.isRunning());
+    QVERIFY(b.terminate());
+}
+
+void TestOpenRgbService::npmClient()
+{
+    const QString node = QStandardPaths::findExecutable(QStringLiteral("node"));
+    if (node.isEmpty())
+        QSKIP("node is not installed: the openrgb-sdk client test needs Node.js");
+    const QString modules = QStringLiteral(NX_NPM_DIR "/node_modules/openrgb-sdk");
+    if (!QFile::exists(modules + QStringLiteral("/package.json")))
+        QFAIL("openrgb-sdk is not installed in the build tree (test openrgb.npm_install)");
+
+    const quint16 port = freePort();
+    ServiceProcess service(dir("n/run"), dir("n/config"));
+    QVERIFY(service.start(
+        {sdkArgument(port), QStringLiteral("--modules=3"), QStringLiteral("--leds=8")}));
+    QProcess script;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("NODE_PATH"), QStringLiteral(NX_NPM_DIR "/node_modules"));
+    script.setProcessEnvironment(env);
+    script.start(node, {QStringLiteral(NX_SOURCE_DIR "/tests/openrgb/sdk_client.js"),
+                        QString::number(port)});
+    QVERIFY(script.waitForFinished(60000));
+    const QByteArray output = script.readAllStandardOutput();
+    QVERIFY2(script.exitCode() == 0,
+             QByteArray(output + script.readAllStandardError()).constData());
+
+    // What the client left behind: slot 1 in Direct with its colours, slot 2 in Pulse.
+    SdkProbe probe;
+    QVERIFY(probe.connectTo(port));
+    orgb::Controller one;
+    QVERIFY(controllerData(probe, 1, &one));
+    QCOMPARE(one.activeMode, 0);
+    QCOMPARE(one.colors.front(), orgb::Color(0x030201));
+    QCOMPARE(one.colors.back(), orgb::Color(0x0000FF));
+    orgb::Controller two;
+    QVERIFY(controllerData(probe, 2, &two));
+    QCOMPARE(two.modes[std::size_t(two.activeMode)].name, std::string("Pulse"));
+
+    // And the change of mode reached the panel's state.
+    RawClient panel;
+    QVERIFY(panel.connectTo(service.socketPath()));
+    nxproto::StateMessage state;
+    QVERIFY(panel.waitForState(&state));
+    QCOMPARE(state.state.module(2).lightMode, 4);
+    QCOMPARE(state.state.module(2).lightSpeed, 0);
+}
+
+QTEST_GUILESS_MAIN(TestOpenRgbService)
+#include "tst_openrgb_service.moc"
