@@ -44,6 +44,8 @@ case "${1:-}" in
     ;;
   test)
     install_missing "${packages[@]}" "${test_packages[@]}"
+    # The OpenRGB SDK test runs the openrgb-sdk npm client; a Node.js of another origin will do.
+    command -v npm >/dev/null || install_missing nodejs npm
     configure_and_build
     cd "$build"
     ctest -j"$jobs" --output-on-failure
