@@ -68,30 +68,41 @@ bool locationLess(const std::string& a, const std::string& b)
     return (a.size() - i) < (b.size() - j);
 }
 
+bool toModule(const orgb::Controller& c, uint32_t device, DramModule* module)
+{
+    if (c.type != orgb::DeviceDram)
+        return false;
+    *module = DramModule();
+    module->device = device;
+    module->name = c.name.substr(0, kMaxTextLength);
+    module->location = c.location.substr(0, kMaxTextLength);
+    module->leds = int(c.leds.size());
+    module->directMode = c.findMode("Direct");
+    if (module->directMode >= 0)
+        module->direct = c.modes[std::size_t(module->directMode)];
+    return true;
+}
+
 std::vector<DramModule> map(const std::vector<orgb::Controller>& controllers)
 {
     std::vector<DramModule> modules;
     for (std::size_t i = 0; i < controllers.size(); ++i) {
-        const orgb::Controller& c = controllers[i];
-        if (c.type != orgb::DeviceDram)
-            continue;
         DramModule module;
-        module.device = uint32_t(i);
-        module.name = c.name;
-        module.location = c.location;
-        module.leds = int(c.leds.size());
-        module.directMode = c.findMode("Direct");
-        if (module.directMode >= 0)
-            module.direct = c.modes[std::size_t(module.directMode)];
-        modules.push_back(module);
+        if (toModule(controllers[i], uint32_t(i), &module))
+            modules.push_back(module);
     }
+    order(modules);
+    return modules;
+}
+
+void order(std::vector<DramModule>& modules)
+{
     // Equal locations keep the server's order, which then decides.
     std::stable_sort(modules.begin(), modules.end(), [](const DramModule& x, const DramModule& y) {
         return locationLess(x.location, y.location);
     });
     if (modules.size() > std::size_t(kMaxModules))
         modules.resize(std::size_t(kMaxModules));
-    return modules;
 }
 
 } // namespace DramMapping

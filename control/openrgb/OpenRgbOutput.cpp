@@ -173,12 +173,13 @@ void OpenRgbOutput::handle(const orgb::Packet& packet)
             return fail(QStringLiteral("controller count answer is not 4 bytes"));
         if (controllerCount_ > kMaxControllers)
             return fail(QStringLiteral("server claims %1 controllers").arg(controllerCount_));
-        controllers_.clear();
+        listed_ = 0;
+        found_.clear();
         requestNextController();
         return;
     }
     case orgb::RequestControllerData: {
-        if (stage_ != Stage::Data || packet.device != controllers_.size())
+        if (stage_ != Stage::Data || packet.device != listed_)
             return;
         orgb::Controller controller;
         std::string error;
@@ -186,7 +187,10 @@ void OpenRgbOutput::handle(const orgb::Packet& packet)
             return fail(QStringLiteral("controller %1: %2")
                             .arg(packet.device)
                             .arg(QString::fromStdString(error)));
-        controllers_.push_back(std::move(controller));
+        DramModule module;
+        if (DramMapping::toModule(controller, listed_, &module))
+            found_.push_back(std::move(module));
+        ++listed_;
         requestNextController();
         return;
     }
@@ -207,16 +211,16 @@ void OpenRgbOutput::requestNextController()
 {
     if (relistPending_)
         return requestCount();
-    if (controllers_.size() < controllerCount_) {
-        const uint32_t device = uint32_t(controllers_.size());
-        connection_->send(device, orgb::RequestControllerData,
+    if (listed_ < controllerCount_) {
+        connection_->send(listed_, orgb::RequestControllerData,
                           version_ >= 1 ? orgb::encodeU32(version_) : std::vector<uint8_t>());
         expect(Stage::Data, kAnswerWaitMs);
         return;
     }
     answerTimer_.stop();
-    modules_ = DramMapping::map(controllers_);
-    controllers_.clear();
+    DramMapping::order(found_);
+    modules_ = std::move(found_);
+    found_.clear();
     QStringList names;
     for (const DramModule& module : modules_)
         names << QString::fromStdString(module.name + " (" + module.location + ")");

@@ -87,7 +87,8 @@ private:
     Stage stage_ = Stage::Idle;
     uint32_t version_ = 0;
     uint32_t controllerCount_ = 0;
-    std::vector<orgb::Controller> controllers_;
+    uint32_t listed_ = 0; // controllers described so far in this listing
+    std::vector<DramModule> found_;
     std::vector<DramModule> modules_;
     std::vector<std::vector<uint32_t>> sent_;
     bool relistPending_ = false;

@@ -7,6 +7,7 @@
 #include "OpenRgbOutput.h"
 #include "RawClient.h"
 #include "SdkProbe.h"
+#include "SdkServer.h"
 #include "ServiceProcess.h"
 #include "TestEnvironment.h"
 
@@ -53,6 +54,7 @@ private slots:
     void hostilePacketsCloseOnlyTheirConnection_data();
     void hostilePacketsCloseOnlyTheirConnection();
     void serviceDrivesService();
+    void serverTellsOfDeviceListChanges();
     void npmClient();
 };
 
@@ -89,6 +91,31 @@ void TestOpenRgbService::outputDrivesOurServer()
     QCOMPARE(seen.type, int32_t(orgb::DeviceDram));
     QCOMPARE(seen.modes[0].name, std::string("Direct"));
     QCOMPARE(seen.modes[6].name, std::string("Wave"));
+
+    // The panel's preview shows them too.
+    RawClient panel;
+    QVERIFY(panel.connectTo(service.socketPath()));
+    nxproto::Request preview;
+    preview.type = nxproto::MessageType::SetPreview;
+    preview.preview = true;
+    panel.send(preview);
+    nxproto::PreviewMessage shown;
+    QTRY_VERIFY([&] {
+        nxproto::Frame message;
+        return panel.waitFor(nxproto::MessageType::Preview, &message, 1000) &&
+               nxproto::decodePreview(message, shown, nullptr) &&
+               std::equal(frame[2], frame[2] + 8, shown.colors[2]);
+    }());
+
+    // Until the user changes that module on the panel: its own lighting comes back.
+    panel.send(lightingRequest(2, 6));
+    QTRY_VERIFY([&] {
+        nxproto::Frame message;
+        return panel.waitFor(nxproto::MessageType::Preview, &message, 1000) &&
+               nxproto::decodePreview(message, shown, nullptr) &&
+               !std::equal(frame[2], frame[2] + 8, shown.colors[2]) &&
+               std::equal(frame[3], frame[3] + 8, shown.colors[3]);
+    }());
 }
 
 void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection_data()
@@ -187,6 +214,43 @@ void TestOpenRgbService::serviceDrivesService()
     QTest::qWait(500);
     QVERIFY(b.isRunning());
     QVERIFY(b.terminate());
+}
+
+void TestOpenRgbService::serverTellsOfDeviceListChanges()
+{
+    DirectLighting direct;
+    SdkServer server(direct, "1.0");
+    QString error;
+    QVERIFY2(server.listen(QHostAddress::LocalHost, 0, &error), qPrintable(error));
+    SdkModule module;
+    module.leds = 8;
+    module.model = "KX44";
+    server.setModules({module});
+    QTcpSocket client;
+    client.connectToHost(QHostAddress::LocalHost, server.port());
+    QVERIFY(client.waitForConnected(5000));
+    QTRY_COMPARE(server.sessionCount(), 1);
+
+    // Same devices with another light mode: nothing to tell.
+    SdkModule changedMode = module;
+    changedMode.lightMode = 3;
+    server.setModules({changedMode});
+    QTest::qWait(100);
+    QCOMPARE(client.bytesAvailable(), 0);
+
+    // A second module, then one with other LEDs: each time DEVICE_LIST_UPDATED.
+    SdkModule second = module;
+    second.slot = 1;
+    server.setModules({module, second});
+    second.leds = 5;
+    server.setModules({module, second});
+    QTRY_COMPARE(client.bytesAvailable(), qint64(2 * orgb::kHeaderSize));
+    const std::vector<uint8_t> expected = orgb::encodePacket(0, orgb::DeviceListUpdated);
+    QCOMPARE(client.read(orgb::kHeaderSize), bytes(expected));
+
+    // The session ends with its client.
+    client.abort();
+    QTRY_COMPARE(server.sessionCount(), 0);
 }
 
 void TestOpenRgbService::npmClient()
