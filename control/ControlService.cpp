@@ -2,7 +2,7 @@
 
 #include "ModuleControllers.h"
 #include "OpenRgbOutput.h"
-#include "OutputSpec.h"
+#include "OutputChoice.h"
 #include "SdkServer.h"
 
 #include <QCoreApplication>
@@ -211,10 +211,10 @@ nxproto::HardwareInfo ControlService::hardwareInfo() const
 
 bool ControlService::startOpenRgb(QString* error)
 {
-    OutputSpec spec;
+    OutputChoice choice;
     std::string reason;
-    if (OutputSpec::parse(simulation_.output, &spec, &reason) && spec.openrgb) {
-        output_ = std::make_unique<OpenRgbOutput>(QString::fromStdString(spec.host), spec.port);
+    if (OutputChoice::parse(simulation_.output, &choice, &reason) && choice.openrgb) {
+        output_ = std::make_unique<OpenRgbOutput>(QString::fromStdString(choice.host), choice.port);
         connect(output_.get(), &OpenRgbOutput::modulesChanged, this,
                 &ControlService::broadcastHardware);
         output_->start();

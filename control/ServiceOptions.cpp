@@ -1,6 +1,6 @@
 #include "ServiceOptions.h"
 
-#include "OutputSpec.h"
+#include "OutputChoice.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -99,20 +99,20 @@ bool ServiceOptions::parse(const QStringList& givenArguments, QString* message, 
     }
     if (parser.isSet(outputOption)) {
         const std::string text = parser.value(outputOption).toStdString();
-        OutputSpec spec;
+        OutputChoice choice;
         std::string error;
-        if (!OutputSpec::parse(text, &spec, &error)) {
+        if (!OutputChoice::parse(text, &choice, &error)) {
             *message = QStringLiteral("--output: ") + QString::fromStdString(error);
             return false;
         }
-        output = spec.text();
+        output = choice.text();
     }
     if (parser.isSet(sdkServerOption)) {
         std::string host = "127.0.0.1";
         uint16_t port = 6743;
         std::string error;
-        if (!OutputSpec::parseAddress(parser.value(sdkServerOption).toStdString(), &host, &port,
-                                      &error)) {
+        if (!OutputChoice::parseAddress(parser.value(sdkServerOption).toStdString(), &host, &port,
+                                        &error)) {
             *message = QStringLiteral("--sdk-server: ") + QString::fromStdString(error);
             return false;
         }

@@ -9,7 +9,7 @@ struct SimulationConfig {
     int modules = 4;
     int leds = 8;
     std::vector<std::string> models{"KX44"};
-    // Where the rendered frames go: "none" or "openrgb[:HOST:PORT]" (see OutputSpec).
+    // Where the rendered frames go: "none" or "openrgb[:HOST:PORT]" (see OutputChoice).
     std::string output = "none";
 
     static constexpr int kMaxModules = 8;

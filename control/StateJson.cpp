@@ -1,6 +1,6 @@
 #include "StateJson.h"
 
-#include "OutputSpec.h"
+#include "OutputChoice.h"
 
 #include <QJsonArray>
 #include <QJsonValue>
@@ -285,12 +285,12 @@ bool fromJson(const QJsonObject& object, ControlState* stateOut, SimulationConfi
     // Files written before outputs existed have no "output".
     const QJsonValue output = object.value(QStringLiteral("output"));
     if (in.ok() && !output.isUndefined()) {
-        OutputSpec spec;
+        OutputChoice choice;
         std::string reason;
         if (!output.isString() ||
-            !OutputSpec::parse(output.toString().toStdString(), &spec, &reason))
+            !OutputChoice::parse(output.toString().toStdString(), &choice, &reason))
             in.fail(QStringLiteral("\"output\" is not none or openrgb[:HOST:PORT]"));
-        simulation.output = spec.text();
+        simulation.output = choice.text();
     }
     if (!in.ok())
         return false;

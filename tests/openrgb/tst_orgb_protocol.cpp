@@ -5,7 +5,7 @@
 #include "DirectLighting.h"
 #include "DramMapping.h"
 #include "OrgbPacket.h"
-#include "OutputSpec.h"
+#include "OutputChoice.h"
 #include "PacketSplitter.h"
 #include "Recording.h"
 #include "ResumeWatch.h"
@@ -73,8 +73,8 @@ private slots:
     void damagedControllerData();
     void updateBlocks();
     void slotsFollowLocations();
-    void outputSpec_data();
-    void outputSpec();
+    void outputChoice_data();
+    void outputChoice();
     void directLighting();
     void resumeWatch();
 };
@@ -336,7 +336,7 @@ void TestOrgbProtocol::slotsFollowLocations()
     QCOMPARE(eight.back().location, std::string("DIMM 7"));
 }
 
-void TestOrgbProtocol::outputSpec_data()
+void TestOrgbProtocol::outputChoice_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("ok");
@@ -357,19 +357,19 @@ void TestOrgbProtocol::outputSpec_data()
     QTest::newRow("empty") << "" << false << "";
 }
 
-void TestOrgbProtocol::outputSpec()
+void TestOrgbProtocol::outputChoice()
 {
     QFETCH(QString, text);
     QFETCH(bool, ok);
     QFETCH(QString, normal);
-    OutputSpec spec;
+    OutputChoice choice;
     std::string error;
-    QCOMPARE(OutputSpec::parse(text.toStdString(), &spec, &error), ok);
+    QCOMPARE(OutputChoice::parse(text.toStdString(), &choice, &error), ok);
     if (ok) {
-        QCOMPARE(QString::fromStdString(spec.text()), normal);
-        OutputSpec again;
-        QVERIFY(OutputSpec::parse(spec.text(), &again, &error));
-        QCOMPARE(again.text(), spec.text());
+        QCOMPARE(QString::fromStdString(choice.text()), normal);
+        OutputChoice again;
+        QVERIFY(OutputChoice::parse(choice.text(), &again, &error));
+        QCOMPARE(again.text(), choice.text());
     } else {
         QVERIFY(!error.empty());
     }

@@ -1,8 +1,8 @@
-#include "OutputSpec.h"
+#include "OutputChoice.h"
 
 #include <cctype>
 
-constexpr char OutputSpec::kDefaultHost[];
+constexpr char OutputChoice::kDefaultHost[];
 
 namespace {
 
@@ -36,8 +36,8 @@ bool validHost(const std::string& host)
 
 } // namespace
 
-bool OutputSpec::parseAddress(const std::string& text, std::string* host, uint16_t* port,
-                              std::string* error)
+bool OutputChoice::parseAddress(const std::string& text, std::string* host, uint16_t* port,
+                                std::string* error)
 {
     std::string hostPart;
     std::string portPart;
@@ -85,11 +85,11 @@ bool OutputSpec::parseAddress(const std::string& text, std::string* host, uint16
     return true;
 }
 
-bool OutputSpec::parse(const std::string& text, OutputSpec* spec, std::string* error)
+bool OutputChoice::parse(const std::string& text, OutputChoice* choice, std::string* error)
 {
-    OutputSpec result;
+    OutputChoice result;
     if (text == "none") {
-        *spec = result;
+        *choice = result;
         return true;
     }
     const std::string name = text.substr(0, text.find(':'));
@@ -107,11 +107,11 @@ bool OutputSpec::parse(const std::string& text, OutputSpec* spec, std::string* e
         if (!parseAddress(address, &result.host, &result.port, error))
             return false;
     }
-    *spec = result;
+    *choice = result;
     return true;
 }
 
-std::string OutputSpec::text() const
+std::string OutputChoice::text() const
 {
     if (!openrgb)
         return "none";

@@ -5,7 +5,7 @@
 
 // Where the service sends its frames, as given by --output and kept in the state file:
 // "none", or "openrgb" with an optional "HOST:PORT" ("[v6 address]:PORT" for IPv6).
-struct OutputSpec {
+struct OutputChoice {
     static constexpr char kDefaultHost[] = "127.0.0.1";
 
     bool openrgb = false;
@@ -13,7 +13,7 @@ struct OutputSpec {
     uint16_t port = 6742;
 
     // False with a message for the user when `text` is not such a value.
-    static bool parse(const std::string& text, OutputSpec* spec, std::string* error);
+    static bool parse(const std::string& text, OutputChoice* choice, std::string* error);
     // "HOST:PORT", "[ADDRESS]:PORT", "HOST" or ":PORT"; missing parts keep what `host` and
     // `port` hold.
     static bool parseAddress(const std::string& text, std::string* host, uint16_t* port,
