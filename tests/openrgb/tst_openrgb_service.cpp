@@ -8,6 +8,7 @@
 #include "RawClient.h"
 #include "SdkProbe.h"
 #include "SdkServer.h"
+#include "ServiceOptions.h"
 #include "ServiceProcess.h"
 #include "TestEnvironment.h"
 
@@ -50,6 +51,8 @@ class TestOpenRgbService : public QObject
     Q_OBJECT
 
 private slots:
+    void commandLine_data();
+    void commandLine();
     void outputDrivesOurServer();
     void hostilePacketsCloseOnlyTheirConnection_data();
     void hostilePacketsCloseOnlyTheirConnection();
@@ -57,6 +60,62 @@ private slots:
     void serverTellsOfDeviceListChanges();
     void npmClient();
 };
+
+void TestOpenRgbService::commandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("output"); // empty when refused
+    QTest::addColumn<QString>("sdkServer");
+    QTest::newRow("neither") << QStringList() << "unset"
+                             << "";
+    QTest::newRow("output default") << QStringList{"--output=openrgb"} << "openrgb:127.0.0.1:6742"
+                                    << "";
+    QTest::newRow("output elsewhere")
+        << QStringList{"--output", "openrgb:pc:7000"} << "openrgb:pc:7000"
+        << "";
+    QTest::newRow("output off") << QStringList{"--output=none"} << "none"
+                                << "";
+    QTest::newRow("bad output") << QStringList{"--output=wled"} << ""
+                                << "";
+    QTest::newRow("bad output port") << QStringList{"--output=openrgb:h:99999"} << ""
+                                     << "";
+    QTest::newRow("server default") << QStringList{"--sdk-server"} << "unset"
+                                    << "127.0.0.1:6743";
+    QTest::newRow("server named") << QStringList{"--sdk-server=0.0.0.0:7000"} << "unset"
+                                  << "0.0.0.0:7000";
+    QTest::newRow("server port only") << QStringList{"--sdk-server=:7001"} << "unset"
+                                      << "127.0.0.1:7001";
+    QTest::newRow("bad server") << QStringList{"--sdk-server=1.2.3.4:x"} << ""
+                                << "";
+}
+
+void TestOpenRgbService::commandLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, output);
+    QFETCH(QString, sdkServer);
+    ServiceOptions options;
+    QString message;
+    bool exitNow = false;
+    const bool ok = options.parse(QStringList{QStringLiteral("norvalex-control")} + arguments,
+                                  &message, &exitNow);
+    QCOMPARE(ok, !output.isEmpty());
+    if (!ok) {
+        QVERIFY(message.startsWith(QStringLiteral("--")));
+        return;
+    }
+    QCOMPARE(options.output ? QString::fromStdString(*options.output) : QStringLiteral("unset"),
+             output);
+    QCOMPARE(options.sdkServerHost.isEmpty() ? QString()
+                                             : options.sdkServerHost + QLatin1Char(':') +
+                                                   QString::number(options.sdkServerPort),
+             sdkServer);
+    // The option overrides the stored output for the run.
+    SimulationConfig stored;
+    stored.output = "openrgb:stored:1";
+    QCOMPARE(QString::fromStdString(options.apply(stored).output),
+             options.output ? output : QStringLiteral("openrgb:stored:1"));
+}
 
 void TestOpenRgbService::outputDrivesOurServer()
 {
