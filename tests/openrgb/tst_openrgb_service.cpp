@@ -268,9 +268,23 @@ void TestOpenRgbService::serviceDrivesService()
     orgb::Controller seen;
     QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && seen.activeMode == 0, 10000);
 
-    // A's server going away leaves B running, still reporting the modules.
+    // A's server going away leaves B running, still reporting the modules, but with a time
+    // stamp that no longer advances, so the panel sees the data go stale.
     QVERIFY(a.terminate());
-    QTest::qWait(500);
+    nxproto::HardwareInfo later;
+    QTRY_VERIFY_WITH_TIMEOUT(
+        [&] {
+            nxproto::Frame frame;
+            return panel.waitFor(nxproto::MessageType::Hardware, &frame, 1500) &&
+                   nxproto::decodeHardware(frame, info, nullptr);
+        }(),
+        5000);
+    QTest::qWait(2200);
+    nxproto::Frame frame;
+    QVERIFY(panel.waitFor(nxproto::MessageType::Hardware, &frame, 3000));
+    QVERIFY(nxproto::decodeHardware(frame, later, nullptr));
+    QCOMPARE(later.memoryCount, 2);
+    QVERIFY(later.updateTime <= info.updateTime);
     QVERIFY(b.isRunning());
     QVERIFY(b.terminate());
 }
