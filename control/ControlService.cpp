@@ -67,6 +67,7 @@ bool ControlService::start(QString* error)
 void ControlService::stop()
 {
     frameTimer_.stop();
+    music_.stop();
     broadcastTimer_.stop();
     if (monitor_)
         monitor_->disconnect(this);
@@ -182,6 +183,7 @@ void ControlService::updateRendering()
 {
     if (!monitor_ || !framesWanted()) {
         frameTimer_.stop();
+        music_.stop();
         return;
     }
     renderFrame();
@@ -191,6 +193,7 @@ void ControlService::renderFrame()
 {
     if (!framesWanted()) {
         frameTimer_.stop();
+        music_.stop();
         return;
     }
     nxfx::SceneInput scene;
@@ -200,6 +203,16 @@ void ControlService::renderFrame()
     scene.hour = now.hour();
     scene.minute = now.minute();
     scene.second = now.second() + now.msec() / 1000.0;
+    if (EffectRenderer::wantsMusic(state_, monitor_->info())) {
+        if (!music_.started())
+            qCInfo(lcService) << "Party: listening for the desktop's music";
+        music_.start();
+        const MusicCapture::Reading music = music_.reading();
+        scene.beat = music.beat;
+        scene.loudness = music.loudness;
+    } else {
+        music_.stop();
+    }
 
     nxproto::PreviewMessage message;
     const bool animated = EffectRenderer::render(state_, monitor_->info(), scene, message.colors);

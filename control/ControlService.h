@@ -4,6 +4,7 @@
 #include "ControlState.h"
 #include "EffectRenderer.h"
 #include "HardwareMonitor.h"
+#include "MusicCapture.h"
 #include "ServiceOptions.h"
 #include "StateFile.h"
 
@@ -80,6 +81,7 @@ private:
     uint64_t seed_ = 0;
     std::map<int, FrameSink> sinks_;
     int nextSinkId_ = 1;
+    MusicCapture music_; // open only while a Party mode is rendered
     nxproto::PreviewMessage lastFrame_;
     bool haveFrame_ = false;
 };
