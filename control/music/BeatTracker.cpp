@@ -5,13 +5,13 @@
 
 namespace {
 
-constexpr double kOnsetRatio = 1.8;      // energy over the recent average that makes an onset
-constexpr double kAverageSeconds = 0.5;  // memory of the average
+constexpr double kOnsetRatio = 1.8;     // energy over the recent average that makes an onset
+constexpr double kAverageSeconds = 0.5; // memory of the average
 constexpr double kPeakFallPerSecond = 0.7;
-constexpr double kMinInterval = 0.25;    // 240 bpm
-constexpr double kMaxInterval = 1.5;     // 40 bpm
-constexpr double kSilence = 1e-7;        // block energy taken as silence
-constexpr double kLostAfter = 3.0;       // seconds without an onset before the beat is lost
+constexpr double kMinInterval = 0.25; // 240 bpm
+constexpr double kMaxInterval = 1.5;  // 40 bpm
+constexpr double kSilence = 1e-7;     // block energy taken as silence
+constexpr double kLostAfter = 3.0;    // seconds without an onset before the beat is lost
 
 } // namespace
 

@@ -29,11 +29,11 @@ private:
     double blockSeconds_;
     float pending_[kBlock] = {};
     std::size_t pendingCount_ = 0;
-    double clock_ = 0.0;        // seconds of audio fed
-    double average_ = 0.0;      // recent block energy
-    double peak_ = 1e-6;        // slowly falling maximum of the energy
+    double clock_ = 0.0;   // seconds of audio fed
+    double average_ = 0.0; // recent block energy
+    double peak_ = 1e-6;   // slowly falling maximum of the energy
     double loudness_ = 0.0;
-    double lastBeat_ = -1.0;    // time of the last onset
+    double lastBeat_ = -1.0; // time of the last onset
     double interval_ = 0.5;
     long beats_ = 0;
 };

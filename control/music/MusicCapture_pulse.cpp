@@ -24,9 +24,9 @@ void MusicCapture::run()
     attributes.minreq = uint32_t(-1);
     attributes.fragsize = uint32_t(kReadFrames * sizeof(float));
     int error = 0;
-    pa_simple* stream = pa_simple_new(nullptr, "norvalex-control", PA_STREAM_RECORD,
-                                      "@DEFAULT_MONITOR@", "Party beat", &spec, nullptr,
-                                      &attributes, &error);
+    pa_simple* stream =
+        pa_simple_new(nullptr, "norvalex-control", PA_STREAM_RECORD, "@DEFAULT_MONITOR@",
+                      "Party beat", &spec, nullptr, &attributes, &error);
     if (!stream)
         return;
     listening_ = true;

@@ -59,7 +59,8 @@ void MusicTest::followsTheTempo()
     for (std::size_t at = 0; at < audio.size(); at += 1000)
         tracker.feed(audio.data() + at, std::min<std::size_t>(1000, audio.size() - at));
     const double expected = 8.0 * bpm / 60.0;
-    QVERIFY2(std::abs(tracker.beat() - expected) <= 1.0, qPrintable(QString::number(tracker.beat())));
+    QVERIFY2(std::abs(tracker.beat() - expected) <= 1.0,
+             qPrintable(QString::number(tracker.beat())));
     QVERIFY(std::abs(tracker.interval() - 60.0 / bpm) < 0.03);
 
     // Half way between two hits the beat stands half way too.
