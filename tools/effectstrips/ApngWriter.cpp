@@ -77,6 +77,14 @@ bool split(const QByteArray& png, std::vector<Chunk>* chunks)
 
 } // namespace
 
+void ApngWriter::addFrame(const QImage& frame)
+{
+    if (!frames_.empty() && frames_.back().image == frame)
+        ++frames_.back().repeats;
+    else
+        frames_.push_back({frame, 1});
+}
+
 bool ApngWriter::save(const QString& path, QString* error) const
 {
     if (frames_.empty()) {
@@ -89,7 +97,9 @@ bool ApngWriter::save(const QString& path, QString* error) const
         QByteArray encoded;
         QBuffer buffer(&encoded);
         buffer.open(QIODevice::WriteOnly);
-        if (frames_[i].size() != frames_[0].size() || !frames_[i].save(&buffer, "PNG")) {
+        const QImage& image = frames_[i].image;
+        // Quality 0 is the strongest compression.
+        if (image.size() != frames_[0].image.size() || !image.save(&buffer, "PNG", 0)) {
             *error = QStringLiteral("frame %1 cannot be encoded").arg(i);
             return false;
         }
@@ -102,9 +112,10 @@ bool ApngWriter::save(const QString& path, QString* error) const
             out += chunk("IHDR", chunks.front().data);
             out += chunk("acTL", be32(uint32_t(frames_.size())) + be32(0));
         }
-        const QByteArray control = be32(sequence++) + be32(uint32_t(frames_[i].width())) +
-                                   be32(uint32_t(frames_[i].height())) + be32(0) + be32(0) +
-                                   be16(uint16_t(delayMs_)) + be16(1000) + QByteArray(2, '\0');
+        const QByteArray control = be32(sequence++) + be32(uint32_t(image.width())) +
+                                   be32(uint32_t(image.height())) + be32(0) + be32(0) +
+                                   be16(uint16_t(delayMs_ * frames_[i].repeats)) + be16(1000) +
+                                   QByteArray(2, '\0');
         out += chunk("fcTL", control);
         for (const Chunk& c : chunks) {
             if (c.type != "IDAT")

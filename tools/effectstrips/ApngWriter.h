@@ -13,10 +13,15 @@ class ApngWriter
 public:
     explicit ApngWriter(int delayMs) : delayMs_(delayMs) {}
 
-    void addFrame(const QImage& frame) { frames_.push_back(frame); }
+    // A frame equal to the one before only lengthens that one.
+    void addFrame(const QImage& frame);
     bool save(const QString& path, QString* error) const;
 
 private:
     int delayMs_;
-    std::vector<QImage> frames_;
+    struct Frame {
+        QImage image;
+        int repeats;
+    };
+    std::vector<Frame> frames_;
 };

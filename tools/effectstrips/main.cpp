@@ -125,6 +125,9 @@ bool renderMode(const nxfx::EffectInfo& effect, const Options& options, QString*
 
 int main(int argc, char* argv[])
 {
+    // Drawing needs no display.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(
