@@ -12,7 +12,7 @@ jobs="${NX_JOBS:-2}"
 packages=(
   cmake make g++ pkg-config
   qtbase5-dev qttools5-dev qttools5-dev-tools
-  libbenchmark-dev
+  libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
 test_packages=(g++-mingw-w64-x86-64-posix)
