@@ -3,7 +3,13 @@
 #include "BeatTracker.h"
 #include "MusicCapture.h"
 
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QtTest>
+
+#ifdef NX_HAVE_PULSE
+#include <pulse/simple.h>
+#endif
 
 #include <cmath>
 #include <vector>
@@ -39,6 +45,7 @@ private slots:
     void followsTheTempo();
     void silenceAndLoudness();
     void noSoundServer();
+    void hearsTheDesktop();
 };
 
 void MusicTest::followsTheTempo_data()
@@ -102,6 +109,81 @@ void MusicTest::noSoundServer()
     capture.stop();
     QVERIFY(!capture.started());
     qputenv("PULSE_SERVER", saved);
+}
+
+void MusicTest::hearsTheDesktop()
+{
+#ifndef NX_HAVE_PULSE
+    QSKIP("built without libpulse-simple");
+#else
+    // A real sound server of our own with one silent output; drums played into it must be
+    // heard through that output's monitor.
+    const QString server = QStandardPaths::findExecutable(QStringLiteral("pulseaudio"));
+    if (server.isEmpty())
+        QSKIP("pulseaudio is not installed");
+    QTemporaryDir dir;
+    QDir(dir.path()).mkpath(QStringLiteral("runtime"));
+    QFile::setPermissions(dir.filePath(QStringLiteral("runtime")),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    const QString socket = dir.filePath(QStringLiteral("native"));
+    struct Server : QProcess {
+        ~Server() override
+        {
+            kill();
+            waitForFinished(5000);
+        }
+    } pulse;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("HOME"), dir.path());
+    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir.filePath(QStringLiteral("runtime")));
+    env.insert(QStringLiteral("XDG_CONFIG_HOME"), dir.path());
+    pulse.setProcessEnvironment(env);
+    pulse.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    pulse.start(server, {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
+                         QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--use-pid-file=no"),
+                         QStringLiteral("--log-level=error"),
+                         QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 "
+                                        "socket=") +
+                             socket,
+                         QStringLiteral("--load=module-null-sink sink_name=nxtest")});
+    QVERIFY(pulse.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(socket), 10000);
+    const QByteArray saved = qgetenv("PULSE_SERVER");
+    qputenv("PULSE_SERVER", "unix:" + socket.toLocal8Bit());
+
+    MusicCapture capture;
+    capture.start();
+    QTRY_VERIFY_WITH_TIMEOUT(capture.listening(), 10000);
+
+    pa_sample_spec spec;
+    spec.format = PA_SAMPLE_FLOAT32NE;
+    spec.rate = kRate;
+    spec.channels = 1;
+    int error = 0;
+    pa_simple* player = pa_simple_new(nullptr, "norvalex-test", PA_STREAM_PLAYBACK, nullptr,
+                                      "drums", &spec, nullptr, nullptr, &error);
+    QVERIFY(player);
+    const std::vector<float> audio = drums(120, 6.0);
+    // Written a tenth of a second at a time: the server takes it at the pace it plays.
+    double loudest = 0;
+    for (std::size_t at = 0; at < audio.size(); at += kRate / 10) {
+        QVERIFY(
+            pa_simple_write(player, audio.data() + at,
+                            std::min<std::size_t>(kRate / 10, audio.size() - at) * sizeof(float),
+                            &error) == 0);
+        loudest = std::max(loudest, capture.reading().loudness);
+    }
+    QVERIFY(pa_simple_drain(player, &error) == 0);
+    pa_simple_free(player);
+
+    const double beat = capture.reading().beat;
+    QVERIFY2(beat >= 6, qPrintable(QString::number(beat)));
+    QVERIFY(loudest > 0.3);
+    capture.stop();
+    QCOMPARE(capture.reading().beat, -1.0);
+
+    qputenv("PULSE_SERVER", saved);
+#endif
 }
 
 QTEST_GUILESS_MAIN(MusicTest)
