@@ -2,6 +2,7 @@
 // what is wanted.
 
 #include "EffectRenderer.h"
+#include "PrivateSoundServer.h"
 #include "RawClient.h"
 #include "ServiceProcess.h"
 
@@ -51,6 +52,7 @@ class EffectRendererTest : public QObject
 private slots:
     void canvasFollowsSlotOrder();
     void rendersOnlyWhatIsWanted();
+    void listensOnlyDuringParty();
 };
 
 void EffectRendererTest::canvasFollowsSlotOrder()
@@ -123,6 +125,52 @@ void EffectRendererTest::rendersOnlyWhatIsWanted()
     client.send(preview);
     client.countFor(MessageType::Preview, 300);
     QCOMPARE(client.countFor(MessageType::Preview, 500), 0);
+    QVERIFY(service.terminate());
+}
+
+void EffectRendererTest::listensOnlyDuringParty()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    PrivateSoundServer sound;
+    if (!sound.start())
+        QSKIP("pulseaudio is not installed");
+    // The streams recording from the sound server, as its own tool lists them.
+    auto recordings = [&sound]() {
+        QProcess pactl;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("PULSE_SERVER"), QString::fromLocal8Bit(sound.address()));
+        pactl.setProcessEnvironment(env);
+        pactl.start(QStringLiteral("pactl"), {QStringLiteral("list"), QStringLiteral("short"),
+                                              QStringLiteral("source-outputs")});
+        pactl.waitForFinished(10000);
+        return pactl.readAllStandardOutput().count('\n');
+    };
+    const QByteArray saved = qgetenv("PULSE_SERVER");
+    qputenv("PULSE_SERVER", sound.address());
+    QTemporaryDir dir;
+    ServiceProcess service(dir.path(), dir.path());
+    qputenv("PULSE_SERVER", saved);
+    QVERIFY(service.start({QStringLiteral("--modules"), QStringLiteral("2")}));
+    RawClient client;
+    QVERIFY(client.connectTo(service.socketPath()));
+    StateMessage state;
+    QVERIFY(client.waitForState(&state));
+    QCOMPARE(recordings(), 0);
+
+    // Party with nobody watching: nothing to render, nothing to listen for.
+    QVERIFY(client.waitForState(&state, client.send(lightingRequest(1, 10))));
+    QTest::qWait(300);
+    QCOMPARE(recordings(), 0);
+
+    Request preview;
+    preview.type = MessageType::SetPreview;
+    preview.preview = true;
+    client.send(preview);
+    QTRY_COMPARE_WITH_TIMEOUT(recordings(), 1, 10000);
+
+    // Another mode: the recording ends.
+    QVERIFY(client.waitForState(&state, client.send(lightingRequest(1, 6))));
+    QTRY_COMPARE_WITH_TIMEOUT(recordings(), 0, 10000);
     QVERIFY(service.terminate());
 }
 

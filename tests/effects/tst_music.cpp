@@ -2,9 +2,8 @@
 
 #include "BeatTracker.h"
 #include "MusicCapture.h"
+#include "PrivateSoundServer.h"
 
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #ifdef NX_HAVE_PULSE
@@ -118,38 +117,11 @@ void MusicTest::hearsTheDesktop()
 #else
     // A real sound server of our own with one silent output; drums played into it must be
     // heard through that output's monitor.
-    const QString server = QStandardPaths::findExecutable(QStringLiteral("pulseaudio"));
-    if (server.isEmpty())
+    PrivateSoundServer server;
+    if (!server.start())
         QSKIP("pulseaudio is not installed");
-    QTemporaryDir dir;
-    QDir(dir.path()).mkpath(QStringLiteral("runtime"));
-    QFile::setPermissions(dir.filePath(QStringLiteral("runtime")),
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    const QString socket = dir.filePath(QStringLiteral("native"));
-    struct Server : QProcess {
-        ~Server() override
-        {
-            kill();
-            waitForFinished(5000);
-        }
-    } pulse;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("HOME"), dir.path());
-    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir.filePath(QStringLiteral("runtime")));
-    env.insert(QStringLiteral("XDG_CONFIG_HOME"), dir.path());
-    pulse.setProcessEnvironment(env);
-    pulse.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    pulse.start(server, {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
-                         QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--use-pid-file=no"),
-                         QStringLiteral("--log-level=error"),
-                         QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 "
-                                        "socket=") +
-                             socket,
-                         QStringLiteral("--load=module-null-sink sink_name=nxtest")});
-    QVERIFY(pulse.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(socket), 10000);
     const QByteArray saved = qgetenv("PULSE_SERVER");
-    qputenv("PULSE_SERVER", "unix:" + socket.toLocal8Bit());
+    qputenv("PULSE_SERVER", server.address());
 
     MusicCapture capture;
     capture.start();
