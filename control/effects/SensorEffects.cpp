@@ -9,6 +9,7 @@ using namespace shape;
 namespace {
 
 constexpr Color kUnknown = rgb(60, 60, 60);
+constexpr Color kSecondsDot = rgb(70, 70, 110);
 
 int clockDigit(const SceneInput& scene, int index)
 {
@@ -46,8 +47,14 @@ Color clock(const EffectContext& c, int led)
             return 0;
         digit += int(within / kClockPage) * columns;
     }
-    if (digit >= kClockDigits)
-        return 0;
+    if (digit >= kClockDigits) {
+        if (columns <= kClockDigits)
+            return 0;
+        // Modules past the digits: a dot running through them once a minute.
+        const int spare = (columns - kClockDigits) * c.leds();
+        const int index = (c.column() - kClockDigits) * c.leds() + led;
+        return index == int(c.scene().second / 60.0 * spare) % spare ? kSecondsDot : 0;
+    }
     const int bit = c.leds() - 1 - led;
     const Color color = digit < 2 ? kHourColor : kMinuteColor;
     if (bit < 4)

@@ -10,8 +10,9 @@ Color temperature(const EffectContext& c, int led);
 
 // The local time as a binary clock, one decimal digit per module: the bottom four LEDs are
 // the digit's bits (lowest at the bottom), hours in amber, minutes in cyan, and the LED above
-// them marks a tens digit, blinking with the seconds. A canvas of four or more modules shows HH MM
-// at once; a narrower one shows the digits a page at a time.
+// them marks a tens digit, blinking with the seconds. A canvas of four or more modules shows
+// HH MM at once, the seconds as a dot running through any further modules; a narrower one shows
+// the digits a page at a time.
 Color clock(const EffectContext& c, int led);
 
 constexpr double kCoolCelsius = 30.0;
