@@ -186,7 +186,9 @@ void ControlService::updateRendering()
         music_.stop();
         return;
     }
-    renderFrame();
+    // A running frame clock picks the change up at its next tick.
+    if (!frameTimer_.isActive())
+        renderFrame();
 }
 
 void ControlService::renderFrame()
