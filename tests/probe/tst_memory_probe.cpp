@@ -1,10 +1,12 @@
 // Sensors, channel mode and the whole probe against a fake root.
 
 #include "ChannelMode.h"
+#include "DmiCache.h"
 #include "FixtureRoot.h"
 #include "Hwmon.h"
 #include "MemoryProbe.h"
 
+#include <QProcess>
 #include <QtTest>
 
 using fixture::Device;
@@ -20,6 +22,7 @@ private slots:
     void channelMode();
     void wholeMachine();
     void withoutSources();
+    void cacheTool();
 };
 
 void TestMemoryProbe::moduleSensors()
@@ -223,6 +226,43 @@ void TestMemoryProbe::withoutSources()
     probe.fill(info);
     QCOMPARE(info.casLatency, 22.0);
     QCOMPARE(info.modules[1].modelCode, std::string("FROM-SPD"));
+}
+
+void TestMemoryProbe::cacheTool()
+{
+    const auto run = [](const QStringList& arguments) {
+        QProcess tool;
+        tool.start(QStringLiteral(NX_DMI_CACHE_TOOL), arguments);
+        return tool.waitForFinished(30000) ? tool.exitCode() : -1;
+    };
+    fixture::Root root;
+    Device d;
+    d.size = 16384;
+    d.type = 0x22;
+    d.configured = 5600;
+    d.locator = QStringLiteral("DIMM_A1");
+    d.part = QStringLiteral("PART-1");
+    const QByteArray table = fixture::memoryArray(2) + fixture::memoryDevice(d, 0x11) +
+                             fixture::memoryDevice(Device(), 0x12) + fixture::endOfTable();
+    root.dmiTable(table);
+    QCOMPARE(run({QStringLiteral("--root"), root.path()}), 0);
+    const QString cache = DmiCache::cachePath(root.path());
+    QVERIFY(QFileInfo(cache).permissions() & QFileDevice::ReadOther);
+
+    // A user who cannot read the table gets the same from the cache.
+    QFile::remove(DmiCache::tablePath(root.path()));
+    SmbiosMemory fromCache;
+    QString source;
+    QVERIFY(DmiCache::load(root.path(), &fromCache, &source));
+    QCOMPARE(source, QStringLiteral("SMBIOS cache"));
+    QVERIFY(fromCache == SmbiosMemory::decode(table));
+    MemoryProbe probe(root.path());
+    QVERIFY(probe.probe());
+
+    // No table: an error, and the cache is left as it was; wrong arguments: usage.
+    QCOMPARE(run({QStringLiteral("--root"), root.path()}), 1);
+    QVERIFY(QFileInfo::exists(cache));
+    QCOMPARE(run({QStringLiteral("--frobnicate")}), 2);
 }
 
 QTEST_GUILESS_MAIN(TestMemoryProbe)

@@ -1,7 +1,9 @@
-// The rules' decisions, readings in, events and the load colour out; the autostart entry.
+// The rules' decisions, readings in, events and the load colour out; the autostart entry; the
+// service's module and root options.
 
 #include "AutostartEntry.h"
 #include "RuleEngine.h"
+#include "ServiceOptions.h"
 
 #include <QtTest>
 
@@ -48,6 +50,7 @@ private slots:
     void loadOverride();
     void fanRuleReportedOnce();
     void autostartEntry();
+    void moduleOptions();
 };
 
 void TestRuleEngine::temperatureCrossings()
@@ -195,6 +198,42 @@ void TestRuleEngine::autostartEntry()
     QVERIFY(!AutostartEntry::apply(true, QStringLiteral("norvalex-rgb"), &error));
     QVERIFY(!error.isEmpty());
     QDir(file).removeRecursively();
+}
+
+void TestRuleEngine::moduleOptions()
+{
+    const auto parse = [](const QStringList& arguments, ServiceOptions* options, QString* message) {
+        bool exitNow = false;
+        return options->parse(QStringList{QStringLiteral("norvalex-control")} + arguments, message,
+                              &exitNow);
+    };
+    ServiceOptions options;
+    QString message;
+    QVERIFY(parse({}, &options, &message));
+    QVERIFY(options.moduleMode == ServiceOptions::ModuleMode::Auto);
+    QVERIFY(options.root.isEmpty());
+
+    options = ServiceOptions();
+    QVERIFY(
+        parse({QStringLiteral("--modules=simulated"), QStringLiteral("--root"), QDir::tempPath()},
+              &options, &message));
+    QVERIFY(options.moduleMode == ServiceOptions::ModuleMode::Simulated);
+    QVERIFY(!options.modules);
+    QCOMPARE(options.root, QFileInfo(QDir::tempPath()).absoluteFilePath());
+
+    // A count still means that many simulated modules.
+    options = ServiceOptions();
+    QVERIFY(parse({QStringLiteral("--modules=6")}, &options, &message));
+    QVERIFY(options.moduleMode == ServiceOptions::ModuleMode::Simulated);
+    QCOMPARE(options.modules.value_or(-1), 6);
+
+    for (const QString& bad :
+         {QStringLiteral("--modules=real"), QStringLiteral("--modules=9"),
+          QStringLiteral("--root=/nonexistent/nx"), QStringLiteral("--root=")}) {
+        options = ServiceOptions();
+        QVERIFY2(!parse({bad}, &options, &message), qPrintable(bad));
+        QVERIFY(message.startsWith(bad.section(QLatin1Char('='), 0, 0)));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestRuleEngine)
