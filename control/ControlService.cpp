@@ -1,5 +1,11 @@
 #include "ControlService.h"
 
+#include "AutostartEntry.h"
+#include "DesktopNotifier.h"
+#include "SimulatedModules.h"
+#include "SleepWatcher.h"
+#include "SystemModules.h"
+
 #include <QLoggingCategory>
 #include <QRandomGenerator>
 #include <QTime>
@@ -10,11 +16,26 @@ Q_LOGGING_CATEGORY(lcService, "norvalex.control")
 
 ControlService::ControlService(const ServiceOptions& options, const QString& statePath,
                                const QString& socketPath, QObject* parent)
+    : ControlService(options, statePath, socketPath, QDBusConnection::sessionBus(),
+                     QDBusConnection::systemBus(), parent)
+{
+}
+
+ControlService::ControlService(const ServiceOptions& options, const QString& statePath,
+                               const QString& socketPath, const QDBusConnection& sessionBus,
+                               const QDBusConnection& systemBus, QObject* parent)
     : QObject(parent), options_(options), socketPath_(socketPath), stateFile_(statePath),
       server_([this](ClientConnection& client, const nxproto::Request& request) {
           handleRequest(client, request);
-      })
+      }),
+      notifier_(new DesktopNotifier(sessionBus, systemBus, this)),
+      rules_(new RuleActions(notifier_, this)), sleepWatcher_(new SleepWatcher(systemBus, this))
 {
+    connect(sleepWatcher_, &SleepWatcher::resumed, this, [this] {
+        qCInfo(lcService) << "resumed from suspend: re-applying the lighting";
+        reapplyLighting();
+    });
+
     // Changes made in one pass of the event loop go out as one push.
     broadcastTimer_.setSingleShot(true);
     broadcastTimer_.setInterval(0);
@@ -49,12 +70,17 @@ bool ControlService::start(QString* error)
     if (loaded != StateFile::LoadResult::Loaded)
         saveNow();
 
-    monitor_ = std::make_unique<HardwareMonitor>(simulation_);
+    monitor_ = std::make_unique<HardwareMonitor>(makeModuleSource(), options_.root);
     connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::broadcastHardware);
-    // Temperatures feed the picture.
+    connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::checkRules);
+    // Temperatures and the rules feed the picture.
     connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::updateRendering);
-    qCInfo(lcService) << "simulating" << simulation_.modules << "modules with" << simulation_.leds
-                      << "LEDs";
+    qCInfo(lcService).noquote() << "modules:" << monitor_->source().description();
+    if (!notifier_->hasSessionBus())
+        qCInfo(lcService) << "no session bus: temperature warnings go to the log only";
+    if (!sleepWatcher_->isWatching())
+        qCInfo(lcService) << "logind not reachable: no re-apply after suspend";
+    syncAutostart();
 
     if (!server_.listen(socketPath_, error))
         return false;
@@ -62,6 +88,17 @@ bool ControlService::start(QString* error)
     clock_.start();
     updateRendering();
     return true;
+}
+
+std::unique_ptr<ModuleSource> ControlService::makeModuleSource() const
+{
+    if (options_.moduleMode == ServiceOptions::ModuleMode::Auto) {
+        MemoryProbe probe(options_.root);
+        if (probe.probe())
+            return std::make_unique<SystemModules>(std::move(probe));
+        qCInfo(lcService) << "no memory modules found in SMBIOS; falling back to the simulation";
+    }
+    return std::make_unique<SimulatedModules>(simulation_);
 }
 
 void ControlService::stop()
@@ -108,6 +145,8 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
     }
     const uint32_t changes = nxproto::applyRequest(state_, request);
     pendingChanges_ |= changes;
+    if (changes & nxproto::ChangeSetting)
+        syncAutostart();
     client.setNeedsAck(true);
     scheduleBroadcast();
     scheduleSave();
@@ -218,6 +257,13 @@ void ControlService::renderFrame()
 
     nxproto::PreviewMessage message;
     const bool animated = EffectRenderer::render(state_, monitor_->info(), scene, message.colors);
+    // The load rule overrides every LED of every module while it holds.
+    if (const std::optional<COLORREF> color = rules_->loadOverride()) {
+        for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
+            const int leds = qBound(0, monitor_->info().modules[slot].ledNum, nxproto::kLedCount);
+            std::fill(message.colors[slot], message.colors[slot] + leds, *color);
+        }
+    }
     if (!animated)
         frameTimer_.stop();
     else if (!frameTimer_.isActive())
@@ -243,6 +289,33 @@ void ControlService::renderFrame()
     const auto sinks = sinks_;
     for (const auto& entry : sinks)
         entry.second(message);
+}
+
+void ControlService::reapplyLighting()
+{
+    pendingChanges_ |= nxproto::ChangeAll;
+    scheduleBroadcast();
+    // Sinks and subscribers get the picture again even when it has not changed.
+    haveFrame_ = false;
+    updateRendering();
+    emit lightingReapplied();
+}
+
+void ControlService::checkRules()
+{
+    RuleEngine::Readings readings;
+    readings.memoryLoad = monitor_->info().memoryLoad;
+    readings.memoryTemperature = monitor_->memoryTemperature();
+    readings.cpuTemperature = monitor_->cpuTemperature();
+    rules_->check(state_.noti, readings);
+}
+
+void ControlService::syncAutostart()
+{
+    const bool enabled = state_.setting.autoRun;
+    QString error;
+    if (!AutostartEntry::apply(enabled, AutostartEntry::panelExecutable(), &error))
+        qCWarning(lcService).noquote() << "autostart entry not updated:" << error;
 }
 
 void ControlService::scheduleSave()

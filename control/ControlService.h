@@ -5,12 +5,15 @@
 #include "EffectRenderer.h"
 #include "HardwareMonitor.h"
 #include "MusicCapture.h"
+#include "RuleActions.h"
 #include "ServiceOptions.h"
 #include "StateFile.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
+
+#include <QDBusConnection>
 
 #include <functional>
 #include <map>
@@ -19,6 +22,9 @@
 
 // The control service: owns the lighting state, applies the clients' requests, pushes every
 // change to all clients, renders the LEDs at the frame rate and keeps the state on disk.
+class DesktopNotifier;
+class SleepWatcher;
+
 class ControlService : public QObject
 {
     Q_OBJECT
@@ -30,6 +36,10 @@ public:
 
     ControlService(const ServiceOptions& options, const QString& statePath,
                    const QString& socketPath, QObject* parent = nullptr);
+    // As above, with the buses for desktop warnings and logind (power-off, resume).
+    ControlService(const ServiceOptions& options, const QString& statePath,
+                   const QString& socketPath, const QDBusConnection& sessionBus,
+                   const QDBusConnection& systemBus, QObject* parent = nullptr);
     ~ControlService() override;
 
     bool start(QString* error);
@@ -44,8 +54,16 @@ public:
     using FrameSink = std::function<void(const nxproto::PreviewMessage&)>;
     int addFrameSink(FrameSink sink);
     void removeFrameSink(int id);
+    // Sends the whole lighting out again (after a resume from suspend, when the modules may
+    // have lost it): every client gets a full state and lightingReapplied() is emitted for the
+    // outputs.
+    void reapplyLighting();
+
+signals:
+    void lightingReapplied();
 
 private:
+    std::unique_ptr<ModuleSource> makeModuleSource() const;
     void handleRequest(ClientConnection& client, const nxproto::Request& request);
     void welcome(ClientConnection* client);
     void scheduleBroadcast();
@@ -58,6 +76,8 @@ private:
     bool framesWanted() const;
     void scheduleSave();
     void saveNow();
+    void checkRules();
+    void syncAutostart();
 
     ServiceOptions options_;
     QString socketPath_;
@@ -67,6 +87,9 @@ private:
     SimulationConfig simulation_;       // in effect, with this run's options
     std::unique_ptr<HardwareMonitor> monitor_;
     ControlServer server_;
+    DesktopNotifier* notifier_ = nullptr;
+    RuleActions* rules_ = nullptr;
+    SleepWatcher* sleepWatcher_ = nullptr;
 
     uint32_t pendingChanges_ = 0;
     // Per identified client, the highest seq applied: a request at or below it is a repeat

@@ -15,7 +15,7 @@ packages=(
   libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix pulseaudio)
+test_packages=(g++-mingw-w64-x86-64-posix pulseaudio dbus-daemon)
 
 install_missing() {
   local missing=()
