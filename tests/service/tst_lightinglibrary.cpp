@@ -171,7 +171,9 @@ private slots:
         StateMessage state;
         QVERIFY(other.waitForState(&state));
         int events = lightModeEvents;
-        other.send(lightingRequest(6, 24));
+        Request lighting = lightingRequest(6, 24);
+        lighting.profile = state.state.profile; // an edit names the profile it is made for
+        other.send(lighting);
         QVERIFY(waitForEvent(events));
         QTRY_COMPARE(api_.GetValueLightMode(6), 24);
         QCOMPARE(lastLightModeEvent.load(), int(ChangeLighting));
