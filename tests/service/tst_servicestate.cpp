@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <functional>
 #include <memory>
 #include <sys/stat.h>
 
@@ -248,6 +249,63 @@ private slots:
         QVERIFY(service_->start());
         RawClient after;
         QCOMPARE(connectAndReadState(after).state.module(0).lightMode, mode - 1);
+    }
+
+    // Whatever sits at the state path, the service starts at once with defaults, sets the thing
+    // aside and still obeys SIGTERM; the user's look-alike files stay; what it writes is
+    // private. A lock file that names no process does not keep it from starting.
+    void unusualFilesAtStart()
+    {
+        QVERIFY(service_->terminate());
+        const QString folder = QFileInfo(statePath()).absolutePath();
+        const QString lookAlike = statePath() + QStringLiteral(".a1B2c3");
+        QFile user(lookAlike);
+        QVERIFY(user.open(QIODevice::WriteOnly));
+        user.write("mine");
+        user.close();
+        const QByteArray path = QFile::encodeName(statePath());
+        const std::function<bool()> makers[] = {
+            [&] { return ::mkfifo(path.constData(), 0600) == 0; },
+            [&] { return ::symlink("/dev/zero", path.constData()) == 0; },
+            [&] { return QDir().mkdir(statePath()); },
+        };
+        for (const auto& make : makers) {
+            QVERIFY(QFile::remove(statePath()) || !QFileInfo::exists(statePath()));
+            QVERIFY(make());
+            QVERIFY(service_->start());
+            RawClient client;
+            QVERIFY(connectAndReadState(client).state == defaultControlState());
+            QVERIFY(service_->terminate());
+            QCOMPARE(service_->exitCode(), 0);
+            QVERIFY(QFileInfo(statePath()).isFile() && !QFileInfo(statePath()).isSymLink());
+            QCOMPARE(
+                QDir(folder)
+                    .entryList({QStringLiteral("*.unusable-*")}, QDir::AllEntries | QDir::System)
+                    .size(),
+                1);
+            for (const QString& name : QDir(folder).entryList({QStringLiteral("*.unusable-*")},
+                                                              QDir::AllEntries | QDir::System))
+                QVERIFY(QFile::remove(folder + QLatin1Char('/') + name) ||
+                        QDir(folder + QLatin1Char('/') + name).removeRecursively());
+        }
+        QVERIFY(QFileInfo::exists(lookAlike));
+        struct stat info {
+        };
+        QCOMPARE(::stat(path.constData(), &info), 0);
+        QCOMPARE(int(info.st_mode & 0777), 0600);
+        QCOMPARE(::stat(QFile::encodeName(folder).constData(), &info), 0);
+        QCOMPARE(int(info.st_mode & 0777), 0700);
+
+        const QString lock =
+            dir_->filePath(QStringLiteral("norvalex-mutex-NORVALEX_Control.exe.lock"));
+        for (const QByteArray& junk : {QByteArray(), QByteArray("not a lock\n\x01\x02")}) {
+            QFile lockFile(lock);
+            QVERIFY(lockFile.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            lockFile.write(junk);
+            lockFile.close();
+            QVERIFY2(service_->start(), junk.constData());
+            QVERIFY(service_->terminate());
+        }
     }
 };
 
