@@ -12,7 +12,7 @@ namespace {
 // What a client that does not read may hold up: previews stop first, then the client goes.
 // Kept small, so that the most clients the server takes fit in a few tens of megabytes.
 constexpr qint64 kMaxPreviewBacklogBytes = 32 * 1024;
-constexpr qint64 kMaxQueuedBytes = 512 * 1024;
+constexpr qint64 kMaxQueuedBytes = 256 * 1024;
 // Faults logged per connection; a flood of bad frames is summed up instead.
 constexpr int kMaxLoggedFaults = 20;
 
