@@ -12,8 +12,13 @@
 #include <QtTest>
 
 #include <csignal>
+#include <cstring>
 #include <memory>
+#include <poll.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace nxproto;
@@ -157,6 +162,73 @@ private slots:
         const QByteArray output = runLibrary(environment(QString()), 1000);
         QVERIFY2(output.contains("memoryCount=-1\n"), output.constData());
         QVERIFY(!trap.hasPendingConnections());
+    }
+
+    // Each side refuses a peer running as another user, even when the socket's file lets it
+    // in: the service closes the connection unanswered, the library does not take the state a
+    // foreign listener offers.
+    void peersOfAnotherUserAreRefused()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs to run a peer as another user");
+        constexpr uid_t kOther = 4242;
+        const QString runtimeDir = path(QStringLiteral("runtime"));
+        QVERIFY(QDir().mkpath(runtimeDir));
+        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        const QByteArray socketPath =
+            QFile::encodeName(runtimeDir + QLatin1Char('/') + QLatin1String(kSocketFileName));
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::strncpy(address.sun_path, socketPath.constData(), sizeof address.sun_path - 1);
+
+        // A client of another uid, let through by a socket file opened up to everyone.
+        auto service = startService(runtimeDir, runtimeDir);
+        QVERIFY(service->start());
+        for (const QString& dir : {dir_->path(), runtimeDir})
+            QVERIFY(::chmod(QFile::encodeName(dir).constData(), 0755) == 0);
+        QVERIFY(::chmod(socketPath.constData(), 0666) == 0);
+        const pid_t client = ::fork();
+        if (client == 0) {
+            // Exit status: 0 no answer, 1 answered, 2 could not connect.
+            const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+            if (::setgid(kOther) != 0 || ::setuid(kOther) != 0 ||
+                ::connect(fd, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0)
+                ::_exit(2);
+            pollfd wait{fd, POLLIN, 0};
+            char byte = 0;
+            ::_exit(::poll(&wait, 1, 3000) == 1 && ::read(fd, &byte, 1) == 1 ? 1 : 0);
+        }
+        int status = -1;
+        QCOMPARE(::waitpid(client, &status, 0), client);
+        QVERIFY(WIFEXITED(status));
+        QCOMPARE(WEXITSTATUS(status), 0);
+        QVERIFY(service->terminate());
+
+        // A listener of another uid in the user's own folder, offering a whole service's worth.
+        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        StateMessage welcome;
+        HardwareInfo hardware;
+        hardware.memoryCount = 4;
+        const QByteArray offer = bytesOf(encodeState(welcome)) + bytesOf(encodeHardware(hardware));
+        ::unlink(socketPath.constData());
+        const int listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        QVERIFY(::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0);
+        const pid_t server = ::fork();
+        if (server == 0) {
+            // The credentials a connecting peer sees are those of listen().
+            if (::setgid(kOther) != 0 || ::setuid(kOther) != 0 || ::listen(listener, 8) != 0)
+                ::_exit(2);
+            for (;;) {
+                const int fd = ::accept(listener, nullptr, nullptr);
+                if (fd >= 0 && ::write(fd, offer.constData(), std::size_t(offer.size())) < 0)
+                    ::_exit(3);
+            }
+        }
+        ::close(listener);
+        const QByteArray output = runLibrary(environment(runtimeDir), 1500);
+        ::kill(server, SIGKILL);
+        QCOMPARE(::waitpid(server, &status, 0), server);
+        QVERIFY2(output.contains("memoryCount=-1\n"), output.constData());
     }
 
     // A peer that takes each connection and drops it is retried with growing pauses.
