@@ -120,6 +120,30 @@ private slots:
         QTRY_VERIFY(fileVersion(statePath()) != savedVersion);
     }
 
+    // An edit lands on the profile it was made for, even after another client switched.
+    void editsLandOnTheirProfile()
+    {
+        RawClient editor;
+        RawClient switcher;
+        connectAndReadState(editor);
+        connectAndReadState(switcher);
+        Request profile;
+        profile.type = MessageType::SetProfile;
+        profile.profile = 2;
+        StateMessage state;
+        QVERIFY(switcher.waitForState(&state, switcher.send(profile)));
+        Request late = lightingRequest(3, 20);
+        late.profile = 0;
+        QVERIFY(editor.waitForState(&state, editor.send(late)));
+        QCOMPARE(state.state.profile, 2);
+        QCOMPARE(state.state.profiles[0][3].lightMode, 20);
+        QCOMPARE(state.state.profiles[2][3].lightMode, defaultModuleLighting().lightMode);
+        late.profile = kProfileCount;
+        editor.send(late);
+        Frame refusal;
+        QVERIFY(editor.waitFor(MessageType::Error, &refusal));
+    }
+
     // SIGKILL at random moments of bursts of colour changes: every change the service
     // acknowledged, even in the last bytes before the kill, is there after the restart, and the
     // file is always one the service accepts.
