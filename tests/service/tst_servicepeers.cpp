@@ -112,21 +112,28 @@ private slots:
         QTest::addColumn<QString>("variable");
         QTest::addColumn<int>("mode");
         QTest::addColumn<bool>("useFallback");
-        QTest::newRow("private") << "xdg" << 0700 << false;
-        QTest::newRow("unset") << "" << 0 << true;
-        QTest::newRow("open to others") << "xdg" << 0755 << true;
-        QTest::newRow("missing") << "absent/xdg" << 0 << true;
+        QTest::addColumn<bool>("foreign");
+        QTest::newRow("private") << "xdg" << 0700 << false << false;
+        QTest::newRow("unset") << "" << 0 << true << false;
+        QTest::newRow("open to others") << "xdg" << 0755 << true << false;
+        QTest::newRow("missing") << "absent/xdg" << 0 << true << false;
+        QTest::newRow("another user's") << "xdg" << 0700 << true << true;
     }
     void runtimeFolderIsAgreed()
     {
         QFETCH(QString, variable);
         QFETCH(int, mode);
         QFETCH(bool, useFallback);
+        QFETCH(bool, foreign);
+        if (foreign && ::geteuid() != 0)
+            QSKIP("needs to create a folder owned by another user");
         const QString runtimeDir = variable.isEmpty() ? QString() : path(variable);
         if (mode != 0) {
             QVERIFY(QDir().mkpath(runtimeDir));
             QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), mode_t(mode)) == 0);
         }
+        if (foreign)
+            QVERIFY(::chown(QFile::encodeName(runtimeDir).constData(), 4242, 4242) == 0);
         const QString expected =
             useFallback ? path(QStringLiteral("tmp/runtime-")) +
                               QString::fromStdString(runtimeDirectory()).section('-', -1)
