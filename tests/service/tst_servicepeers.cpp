@@ -132,8 +132,8 @@ private slots:
             QVERIFY(QDir().mkpath(runtimeDir));
             QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), mode_t(mode)) == 0);
         }
-        if (foreign)
-            QVERIFY(::chown(QFile::encodeName(runtimeDir).constData(), 4242, 4242) == 0);
+        if (foreign && ::chown(QFile::encodeName(runtimeDir).constData(), 4242, 4242) != 0)
+            QSKIP("this system does not let root give a folder away");
         const QString expected =
             useFallback ? path(QStringLiteral("tmp/runtime-")) +
                               QString::fromStdString(runtimeDirectory()).section('-', -1)
@@ -155,7 +155,8 @@ private slots:
         const QString squatted = path(QStringLiteral("tmp/runtime-")) +
                                  QString::fromStdString(runtimeDirectory()).section('-', -1);
         QVERIFY(QDir().mkpath(squatted));
-        QVERIFY(::chown(QFile::encodeName(squatted).constData(), 4242, 4242) == 0);
+        if (::chown(QFile::encodeName(squatted).constData(), 4242, 4242) != 0)
+            QSKIP("this system does not let root give a folder away");
         QVERIFY(::chmod(QFile::encodeName(squatted).constData(), 0700) == 0);
         QLocalServer trap;
         QVERIFY(trap.listen(squatted + QLatin1Char('/') + QLatin1String(kSocketFileName)));
@@ -196,10 +197,11 @@ private slots:
         QVERIFY(::chmod(socketPath.constData(), 0666) == 0);
         const pid_t client = ::fork();
         if (client == 0) {
-            // Exit status: 0 no answer, 1 answered, 2 could not connect.
+            // Exit status: 0 no answer, 1 answered, 2 could not connect, 3 could not change uid.
             const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
-            if (::setgid(kOther) != 0 || ::setuid(kOther) != 0 ||
-                ::connect(fd, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0)
+            if (::setgid(kOther) != 0 || ::setuid(kOther) != 0)
+                ::_exit(3);
+            if (::connect(fd, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0)
                 ::_exit(2);
             pollfd wait{fd, POLLIN, 0};
             char byte = 0;
@@ -208,6 +210,8 @@ private slots:
         int status = -1;
         QCOMPARE(::waitpid(client, &status, 0), client);
         QVERIFY(WIFEXITED(status));
+        if (WEXITSTATUS(status) == 3)
+            QSKIP("this system does not let root change its uid");
         QCOMPARE(WEXITSTATUS(status), 0);
         QVERIFY(service->terminate());
 
