@@ -41,10 +41,8 @@ ControlService::ControlService(const ServiceOptions& options, const QString& sta
     broadcastTimer_.setInterval(0);
     connect(&broadcastTimer_, &QTimer::timeout, this, &ControlService::broadcastState);
 
-    // Not restarted by later changes, so a steady stream of changes is still saved.
-    saveTimer_.setSingleShot(true);
-    saveTimer_.setInterval(kSaveDelayMs);
-    connect(&saveTimer_, &QTimer::timeout, this, &ControlService::saveNow);
+    retryTimer_.setSingleShot(true);
+    connect(&retryTimer_, &QTimer::timeout, this, &ControlService::retrySave);
 
     seed_ = QRandomGenerator::global()->generate64();
     frameTimer_.setTimerType(Qt::PreciseTimer);
@@ -67,8 +65,10 @@ bool ControlService::start(QString* error)
                                         ? "state loaded from"
                                         : "starting with defaults; state file")
                                 << stateFile_.path();
-    if (loaded != StateFile::LoadResult::Loaded)
-        saveNow();
+    if (loaded != StateFile::LoadResult::Loaded) {
+        dirty_ = true;
+        commit();
+    }
 
     monitor_ = std::make_unique<HardwareMonitor>(makeModuleSource(), options_.root);
     connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::broadcastHardware);
@@ -108,8 +108,9 @@ void ControlService::stop()
     broadcastTimer_.stop();
     if (monitor_)
         monitor_->disconnect(this);
-    if (dirty_ || saveTimer_.isActive())
-        saveNow();
+    retryTimer_.stop();
+    if (dirty_ && !commit())
+        qCCritical(lcService) << "exiting with unsaved changes";
     server_.close();
 }
 
@@ -120,9 +121,12 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
         if (appliedSeqs_.size() >= kMaxKnownClients)
             appliedSeqs_.clear();
         client.setClientId(request.clientId);
-        client.raiseLastSeq(appliedSeqs_[request.clientId]);
-        client.setNeedsAck(true);
-        scheduleBroadcast();
+        // A returning client learns what it need not send again; a new one has its state.
+        if (const uint32_t applied = appliedSeqs_[request.clientId]) {
+            client.raiseLastSeq(applied);
+            client.setNeedsAck(true);
+            scheduleBroadcast();
+        }
         return;
     case nxproto::MessageType::SetPreview:
         client.setWantsPreview(request.preview);
@@ -143,19 +147,23 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
         }
         applied = request.seq;
     }
+    // A request that leaves the state as it was is acknowledged, but is no change: no push to
+    // the others, no light-mode event, no save.
     const uint32_t changes = nxproto::applyRequest(state_, request);
-    pendingChanges_ |= changes;
-    if (changes & nxproto::ChangeSetting)
-        syncAutostart();
     client.setNeedsAck(true);
     scheduleBroadcast();
-    scheduleSave();
+    if (changes == 0)
+        return;
+    pendingChanges_ |= changes;
+    dirty_ = true;
+    if (changes & nxproto::ChangeSetting)
+        syncAutostart();
 }
 
 void ControlService::welcome(ClientConnection* client)
 {
     nxproto::StateMessage message;
-    message.ackSeq = client->lastSeq();
+    message.ackSeq = client->durableSeq();
     message.changes = nxproto::ChangeAll;
     message.state = state_;
     client->send(nxproto::encodeState(message));
@@ -170,6 +178,9 @@ void ControlService::scheduleBroadcast()
 
 void ControlService::broadcastState()
 {
+    // During a failing episode only the retry timer writes; changes still go out, their
+    // acknowledgements wait.
+    const bool durable = retryTimer_.isActive() ? !dirty_ : commit();
     nxproto::StateMessage message;
     message.changes = pendingChanges_;
     message.state = state_;
@@ -178,11 +189,15 @@ void ControlService::broadcastState()
         updateRendering();
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
+        if (durable)
+            client->markDurable();
+        const bool owed = durable && client->needsAck();
         // A change goes to everyone; a bare acknowledgement only to whom it is owed.
-        if (message.changes == 0 && !client->needsAck())
+        if (message.changes == 0 && !owed)
             continue;
-        client->setNeedsAck(false);
-        message.ackSeq = client->lastSeq();
+        if (durable)
+            client->setNeedsAck(false);
+        message.ackSeq = client->durableSeq();
         client->send(nxproto::encodeState(message));
     }
 }
@@ -283,7 +298,7 @@ void ControlService::renderFrame()
             continue;
         if (frame.empty())
             frame = nxproto::encodePreview(message);
-        client->send(frame);
+        client->send(frame, true);
     }
     // A sink may remove itself or another while it runs.
     const auto sinks = sinks_;
@@ -318,16 +333,30 @@ void ControlService::syncAutostart()
         qCWarning(lcService).noquote() << "autostart entry not updated:" << error;
 }
 
-void ControlService::scheduleSave()
+bool ControlService::commit()
 {
-    dirty_ = true;
-    if (!saveTimer_.isActive())
-        saveTimer_.start();
+    if (!dirty_)
+        return true;
+    QString error;
+    if (!stateFile_.save(state_, storedSimulation_, &error)) {
+        if (failedSaves_++ == 0)
+            qCWarning(lcService).noquote()
+                << "cannot save the state to" << stateFile_.path() << "(" + error + ");"
+                << "keeping the changes and retrying";
+        const int delay = std::min(kMaxRetryMs, kFirstRetryMs << std::min(failedSaves_ - 1, 7));
+        retryTimer_.start(delay);
+        return false;
+    }
+    if (failedSaves_ > 0)
+        qCInfo(lcService).noquote()
+            << "state saved again after" << failedSaves_ << "failed attempts";
+    failedSaves_ = 0;
+    dirty_ = false;
+    return true;
 }
 
-void ControlService::saveNow()
+void ControlService::retrySave()
 {
-    saveTimer_.stop();
-    if (stateFile_.save(state_, storedSimulation_))
-        dirty_ = false;
+    if (commit())
+        scheduleBroadcast(); // the acknowledgements that waited
 }

@@ -20,18 +20,22 @@
 #include <memory>
 #include <unordered_map>
 
-// The control service: owns the lighting state, applies the clients' requests, pushes every
-// change to all clients, renders the LEDs at the frame rate and keeps the state on disk.
 class DesktopNotifier;
 class SleepWatcher;
 
+// The control service: owns the lighting state, applies the clients' requests, pushes every
+// change to all clients, renders the LEDs at the frame rate and keeps the state on disk. A
+// request is acknowledged only once its effect is on disk: the changes read in one pass of the
+// event loop are saved together, then pushed. A save that fails is retried with back-off, and
+// acknowledgements wait for it.
 class ControlService : public QObject
 {
     Q_OBJECT
 
 public:
     static constexpr int kFrameIntervalMs = 33;
-    static constexpr int kSaveDelayMs = 200;
+    static constexpr int kFirstRetryMs = 100;
+    static constexpr int kMaxRetryMs = 10000;
     static constexpr std::size_t kMaxKnownClients = 1024;
 
     ControlService(const ServiceOptions& options, const QString& statePath,
@@ -74,10 +78,11 @@ private:
     // demand for it, and renders at once when frames are wanted.
     void updateRendering();
     bool framesWanted() const;
-    void scheduleSave();
-    void saveNow();
     void checkRules();
     void syncAutostart();
+    // Writes the state if it has unsaved changes; true when everything is on disk.
+    bool commit();
+    void retrySave();
 
     ServiceOptions options_;
     QString socketPath_;
@@ -96,8 +101,9 @@ private:
     // after a reconnection, or a late one from a connection already replaced.
     std::unordered_map<uint64_t, uint32_t> appliedSeqs_;
     QTimer broadcastTimer_;
-    QTimer saveTimer_;
+    QTimer retryTimer_;
     bool dirty_ = false;
+    int failedSaves_ = 0; // in the current episode of failures
     QTimer frameTimer_;
     QElapsedTimer clock_;
     uint32_t frameNumber_ = 0;

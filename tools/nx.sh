@@ -15,7 +15,7 @@ packages=(
   libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix pulseaudio dbus-daemon)
+test_packages=(g++-mingw-w64-x86-64-posix pulseaudio dbus-daemon clang libclang-rt-14-dev)
 
 install_missing() {
   local missing=()
@@ -47,6 +47,14 @@ case "${1:-}" in
     configure_and_build
     cd "$build"
     ctest -j"$jobs" --output-on-failure
+    # The protocol decoders under libFuzzer for a minute, from a clang build of their own.
+    if command -v clang++ >/dev/null; then
+      cmake -S "$here" -B "$build-fuzz" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+        -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
+        -DNX_BUILD_FUZZERS=ON -DNX_BUILD_BENCHMARKS=OFF
+      cmake --build "$build-fuzz" -j"$jobs" --target nx_fuzz_frame_decoder
+      ctest --test-dir "$build-fuzz" -R '^fuzz\.' --output-on-failure
+    fi
     ;;
   build)
     install_missing "${packages[@]}"
