@@ -4,6 +4,7 @@
 #include "ChannelValidator.h"
 #include "LedAreaSelection.h"
 #include "LightModeTable.h"
+#include "Log.h"
 #include "Memory_RGB_View.h"
 #include "Palette_draw_rect.h"
 #include "RGB_Palette.h"
@@ -13,7 +14,6 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QDebug>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -814,7 +814,7 @@ void Lighting_View::applyLanguageFonts()
 
 void Lighting_View::checkLightingRule(int lightMode)
 {
-    qDebug() << "Lighting_View::checkLightingRule" << lightMode;
+    qCDebug(lcPanel) << "Lighting_View::checkLightingRule" << lightMode;
     const LightModeTable::Rule rule = LightModeTable::rule(lightMode);
 
     comboBox_ColorMode->clear();
@@ -829,13 +829,13 @@ void Lighting_View::checkLightingRule(int lightMode)
         colorModeMap.insert(tr(qPrintable(rule.colorItems.at(i))), colorModeMap.size());
         addKeyedItem(comboBox_ColorMode, rule.colorItems.at(i));
     }
-    qDebug() << rule.groupDiagnostic;
+    qCDebug(lcPanel) << rule.groupDiagnostic;
     slider_Light->setDisabled(!rule.brightnessEnabled);
 
     if (rule.randomAdded) {
         colorModeMap.insert(tr(qPrintable(rule.colorItems.last())), colorModeMap.size());
         addKeyedItem(comboBox_ColorMode, rule.colorItems.last());
-        qDebug() << "Add Random";
+        qCDebug(lcPanel) << "Add Random";
     }
     comboBox_ColorMode->setEnabled(rule.colorComboEnabled);
     appendHiddenEmptyItem(comboBox_ColorMode);
@@ -906,12 +906,12 @@ void Lighting_View::setBrightnessSlider(float bright)
 void Lighting_View::applyMbSyncRule(int lightMode)
 {
     if (mbSyncWarning && lightMode == kMbSyncMode) {
-        qDebug() << "label_MB_Sync->setHidden(false)";
+        qCDebug(lcPanel) << "label_MB_Sync->setHidden(false)";
         label_MB_Sync->setHidden(false);
         // The warning reaches over the colour wheel; it must not be painted under it.
         label_MB_Sync->raise();
     } else {
-        qDebug() << "label_MB_Sync->setHidden(true)";
+        qCDebug(lcPanel) << "label_MB_Sync->setHidden(true)";
         label_MB_Sync->setHidden(true);
     }
 }
@@ -1130,7 +1130,7 @@ QPoint Lighting_View::ledCorner(int slot, int led) const
 
 void Lighting_View::slotApply()
 {
-    qDebug() << "Lighting_View::slotApply";
+    qCDebug(lcPanel) << "Lighting_View::slotApply";
     for (int i = 0; i < SlotCount; ++i) {
         if (!isSlotChecked(i))
             continue;
@@ -1143,7 +1143,7 @@ void Lighting_View::slotApply()
             if (!comboBox_LightSpeed->currentText().isEmpty())
                 module.lightSpeed = comboBox_LightSpeed->currentIndex();
         }
-        qDebug() << "UI-->changeBright ==" << slider_Light->value();
+        qCDebug(lcPanel) << "UI-->changeBright ==" << slider_Light->value();
         emit changeBright(static_cast<float>(slider_Light->value() / 10.0));
         Memory_RGB_View* strip = memoryRGBView[i];
         emit changeColor(i, strip->ledColor, strip->singleColor, strip->ledBright,
@@ -1161,7 +1161,7 @@ void Lighting_View::slotApply()
 
 void Lighting_View::slotEdit()
 {
-    qDebug() << "Lighting_View::slotEdit";
+    qCDebug(lcPanel) << "Lighting_View::slotEdit";
     for (int i = 0; i < SlotCount; ++i)
         savedOrder[i] = memoryRGBView[i]->slotPosition;
     if (isEditMode()) {
@@ -1197,7 +1197,7 @@ void Lighting_View::slotEdit()
 
 void Lighting_View::slotEdit_Cancel()
 {
-    qDebug() << "Lighting_View::slotEdit_Cancel";
+    qCDebug(lcPanel) << "Lighting_View::slotEdit_Cancel";
     leaveEditMode();
     const int count = qBound(0, slotNumber, static_cast<int>(SlotCount));
     for (int i = 0; i < count; ++i) {
@@ -1213,7 +1213,7 @@ void Lighting_View::slotEdit_Cancel()
 
 void Lighting_View::slotEdit_Apply()
 {
-    qDebug() << "Lighting_View::slotEdit_Apply";
+    qCDebug(lcPanel) << "Lighting_View::slotEdit_Apply";
     finishEditMode();
     int order[SlotCount];
     for (int i = 0; i < SlotCount; ++i)
@@ -1225,7 +1225,7 @@ void Lighting_View::slotEdit_Apply()
 
 void Lighting_View::slotDefault()
 {
-    qDebug() << "Lighting_View::slotDefault";
+    qCDebug(lcPanel) << "Lighting_View::slotDefault";
     emit changeBright(1.0f);
     for (int i = 0; i < SlotCount; ++i) {
         if (!isSlotChecked(i))
@@ -1238,7 +1238,7 @@ void Lighting_View::slotDefault()
 
 void Lighting_View::currentLightModeIndex(int lightMode)
 {
-    qDebug() << "Lighting_View::currentLightModeIndex" << lightMode;
+    qCDebug(lcPanel) << "Lighting_View::currentLightModeIndex" << lightMode;
     currentLightMode = lightMode;
     btn_LightMode->setText(lightModeName(lightMode));
     checkLightingRule(lightMode);
@@ -1252,7 +1252,7 @@ void Lighting_View::currentLightModeIndex(int lightMode)
 
 void Lighting_View::currentColorModeIndex(int index)
 {
-    qDebug() << "Lighting_View::currentColorModeIndex" << index;
+    qCDebug(lcPanel) << "Lighting_View::currentColorModeIndex" << index;
     for (int i = 0; i < SlotCount; ++i) {
         if (isSlotChecked(i))
             emit changeColorMode(i, colorModeOfComboText());
@@ -1262,22 +1262,22 @@ void Lighting_View::currentColorModeIndex(int index)
 
 void Lighting_View::currentLightSpeedIndex(int index)
 {
-    qDebug() << "Lighting_View::currentLightSpeedIndex" << index;
+    qCDebug(lcPanel) << "Lighting_View::currentLightSpeedIndex" << index;
 }
 
 void Lighting_View::updatePreview()
 {
-    qDebug() << "Lighting_View::updatePreview";
+    qCDebug(lcPanel) << "Lighting_View::updatePreview";
 }
 
 void Lighting_View::updatePreviewList(QList<COLORREF*> list)
 {
-    qDebug() << "Lighting_View::updatePreviewList" << list.size();
+    qCDebug(lcPanel) << "Lighting_View::updatePreviewList" << list.size();
 }
 
 void Lighting_View::slot_SelectMemSlot(int slot)
 {
-    qDebug() << "Lighting_View::slot_SelectMemSlot" << slot;
+    qCDebug(lcPanel) << "Lighting_View::slot_SelectMemSlot" << slot;
     for (int i = 0; i < SlotCount; ++i) {
         if (isSlotChecked(i)) {
             SelectMemoryIndex = i;
@@ -1314,7 +1314,7 @@ void Lighting_View::slot_SelectMemSlot(int slot)
 
 void Lighting_View::slot_TurnOn_Switch(bool on)
 {
-    qDebug() << "Lighting_View::slot_TurnOn_Switch" << on;
+    qCDebug(lcPanel) << "Lighting_View::slot_TurnOn_Switch" << on;
     label_Switch->setText(on ? tr("ON") : tr("OFF"));
     for (int i = 0; i < SlotCount; ++i) {
         if (isSlotChecked(i))
@@ -1325,7 +1325,8 @@ void Lighting_View::slot_TurnOn_Switch(bool on)
 void Lighting_View::slot_SelectHorizontal()
 {
     auto* button = qobject_cast<QPushButton*>(sender());
-    qDebug() << "Lighting_View::slot_SelectHorizontal" << (button ? button->text() : QString());
+    qCDebug(lcPanel) << "Lighting_View::slot_SelectHorizontal"
+                     << (button ? button->text() : QString());
     if (!button || isEditMode())
         return;
     const QString text = button->text();
@@ -1351,13 +1352,13 @@ void Lighting_View::slot_SelectHorizontal()
 
 void Lighting_View::changeSliderBright(int value)
 {
-    qDebug() << "Lighting_View::changeSliderBright" << value;
+    qCDebug(lcPanel) << "Lighting_View::changeSliderBright" << value;
     emit changeBright(static_cast<float>(value / 10.0));
 }
 
 void Lighting_View::slotLightMode()
 {
-    qDebug() << "Lighting_View::slotLightMode";
+    qCDebug(lcPanel) << "Lighting_View::slotLightMode";
     if (widget_Light_Mode_View->isHidden()) {
         widget_Light_Mode_View->show();
         widget_Light_Mode_View->raise();
@@ -1372,32 +1373,32 @@ void Lighting_View::slotLightMode()
 void Lighting_View::slot_Profile()
 {
     const int profile = buttonGroup_Profile->checkedId();
-    qDebug() << "Lighting_View::slot_Profile" << profile;
+    qCDebug(lcPanel) << "Lighting_View::slot_Profile" << profile;
     emit select_Profile(profile);
 }
 
 void Lighting_View::slot_setProfile(int profile)
 {
-    qDebug() << "Lighting_View::slot_setProfile" << profile;
+    qCDebug(lcPanel) << "Lighting_View::slot_setProfile" << profile;
     if (QAbstractButton* button = buttonGroup_Profile->button(profile))
         button->setChecked(true);
 }
 
 void Lighting_View::slot_R_Value(int value)
 {
-    qDebug() << "Lighting_View::slot_R_Value" << value;
+    qCDebug(lcPanel) << "Lighting_View::slot_R_Value" << value;
     lineEdit_R_Value->setText(QString::number(value));
 }
 
 void Lighting_View::slot_G_Value(int value)
 {
-    qDebug() << "Lighting_View::slot_G_Value" << value;
+    qCDebug(lcPanel) << "Lighting_View::slot_G_Value" << value;
     lineEdit_G_Value->setText(QString::number(value));
 }
 
 void Lighting_View::slot_B_Value(int value)
 {
-    qDebug() << "Lighting_View::slot_B_Value" << value;
+    qCDebug(lcPanel) << "Lighting_View::slot_B_Value" << value;
     lineEdit_B_Value->setText(QString::number(value));
 }
 
@@ -1418,7 +1419,8 @@ void Lighting_View::slot_LineEdit_BValue()
 
 void Lighting_View::commitLineEdit(QLineEdit* lineEdit, QSlider* slider)
 {
-    qDebug() << "Lighting_View::commitLineEdit" << lineEdit->objectName() << lineEdit->text();
+    qCDebug(lcPanel) << "Lighting_View::commitLineEdit" << lineEdit->objectName()
+                     << lineEdit->text();
     slider->setValue(lineEdit->text().toInt());
     lineEdit->clearFocus();
     sendColorEntry();
@@ -1434,7 +1436,7 @@ void Lighting_View::sendColorEntry()
 
 void Lighting_View::receivePaletteValue(COLORREF color)
 {
-    qDebug() << "Lighting_View::receivePaletteValue" << color;
+    qCDebug(lcPanel) << "Lighting_View::receivePaletteValue" << color;
     slider_R_Value->setValue(redOf(color));
     slider_G_Value->setValue(greenOf(color));
     slider_B_Value->setValue(blueOf(color));
@@ -1446,7 +1448,7 @@ void Lighting_View::receivePaletteValue(COLORREF color)
 void Lighting_View::setRGB(int slot, COLORREF* colors, COLORREF singleColor, float* brights,
                            float singleBright)
 {
-    qDebug() << "Lighting_View::setRGB" << slot;
+    qCDebug(lcPanel) << "Lighting_View::setRGB" << slot;
     if (slot < 0 || slot >= SlotCount || !colors || !brights)
         return;
     Memory_RGB_View* strip = memoryRGBView[slot];
@@ -1458,8 +1460,8 @@ void Lighting_View::setRGB(int slot, COLORREF* colors, COLORREF singleColor, flo
 void Lighting_View::setLighting(int slot, int lightMode, int colorMode, int lightSpeed,
                                 bool turnOff)
 {
-    qDebug() << "Lighting_View::setLighting" << slot << lightMode << colorMode << lightSpeed
-             << turnOff;
+    qCDebug(lcPanel) << "Lighting_View::setLighting" << slot << lightMode << colorMode << lightSpeed
+                     << turnOff;
     if (slot < 0 || slot >= SlotCount)
         return;
     MemoryModuleData& module = memoryData[slot];
@@ -1489,7 +1491,7 @@ void Lighting_View::setLighting(int slot, int lightMode, int colorMode, int ligh
 
 void Lighting_View::setMemorySlots(int slotCount, int availableCount)
 {
-    qDebug() << "Lighting_View::setMemorySlots" << slotCount << availableCount;
+    qCDebug(lcPanel) << "Lighting_View::setMemorySlots" << slotCount << availableCount;
     for (Memory_RGB_View* strip : memoryRGBView) {
         gridLayout_Memory->removeWidget(strip);
         strip->hide();
@@ -1549,7 +1551,7 @@ void Lighting_View::setMemorySlots(int slotCount, int availableCount)
 
 void Lighting_View::setMemorySlotNumber(int count, int* order)
 {
-    qDebug() << "Lighting_View::setMemorySlotNumber" << count;
+    qCDebug(lcPanel) << "Lighting_View::setMemorySlotNumber" << count;
     if (!order)
         return;
     const int placed = qBound(0, count, static_cast<int>(SlotCount));
@@ -1583,7 +1585,7 @@ void Lighting_View::setMemorySlotNumber(int count, int* order)
 
 void Lighting_View::setMemoryLEDNumber(int count, int* ledNumbers)
 {
-    qDebug() << "Lighting_View::setMemoryLEDNumber" << count;
+    qCDebug(lcPanel) << "Lighting_View::setMemoryLEDNumber" << count;
     if (!ledNumbers)
         return;
     const int modules = qBound(0, count, static_cast<int>(SlotCount));
@@ -1599,7 +1601,7 @@ void Lighting_View::setMemoryLEDNumber(int count, int* ledNumbers)
 
 void Lighting_View::updateLanguage_Lighting()
 {
-    qDebug() << "Lighting_View::updateLanguage_Lighting";
+    qCDebug(lcPanel) << "Lighting_View::updateLanguage_Lighting";
     buildLightModeMap();
     colorModeStandMap.clear();
     const QStringList colorKeys = LightModeTable::colorModeKeys();
@@ -1685,11 +1687,11 @@ void Lighting_View::mouseMoveEvent(QMouseEvent* event)
     const QPoint end = LedAreaSelection::clampDragEnd(held - palette_draw_rect->pos());
     allselect_end_x = end.x();
     allselect_end_y = end.y();
-    qDebug() << "posX:" << pos.x() << ", posY:" << pos.y();
-    qDebug() << "palette_draw_rect->pos().x():" << palette_draw_rect->pos().x()
-             << ", palette_draw_rect->pos().y():" << palette_draw_rect->pos().y();
-    qDebug() << "allselect_end_x : " << allselect_end_x
-             << ", allselect_end_y : " << allselect_end_y;
+    qCDebug(lcPanel) << "posX:" << pos.x() << ", posY:" << pos.y();
+    qCDebug(lcPanel) << "palette_draw_rect->pos().x():" << palette_draw_rect->pos().x()
+                     << ", palette_draw_rect->pos().y():" << palette_draw_rect->pos().y();
+    qCDebug(lcPanel) << "allselect_end_x : " << allselect_end_x
+                     << ", allselect_end_y : " << allselect_end_y;
     palette_draw_rect->setRect(allselect_start_x, allselect_start_y,
                                allselect_end_x - allselect_start_x,
                                allselect_end_y - allselect_start_y);
@@ -1728,7 +1730,7 @@ void Lighting_View::pressInEditMode(const QPoint& pos)
 
 void Lighting_View::pickUpStrip(int slot, const QPoint& pos)
 {
-    qDebug() << "Lighting_View::pickUpStrip" << slot;
+    qCDebug(lcPanel) << "Lighting_View::pickUpStrip" << slot;
     dragSlotIndex = slot;
     Memory_RGB_View* strip = memoryRGBView[slot];
 
@@ -1763,7 +1765,7 @@ void Lighting_View::dropStrip(const QPoint& pos)
 
 void Lighting_View::swapStrips(int dragged, int target)
 {
-    qDebug() << "Lighting_View::swapStrips" << dragged << target;
+    qCDebug(lcPanel) << "Lighting_View::swapStrips" << dragged << target;
     if (dragged < 0 || dragged >= SlotCount)
         return;
     Memory_RGB_View* draggedStrip = memoryRGBView[dragged];
@@ -1800,7 +1802,7 @@ void Lighting_View::selectLedsInBand(const QPoint& releasePos)
     allselect_end_y = end.y();
     const QPoint start(allselect_start_x, allselect_start_y);
     const LedAreaSelection::Direction direction = LedAreaSelection::direction(start, end);
-    qDebug() << "Lighting_View::selectLedsInBand direction" << direction;
+    qCDebug(lcPanel) << "Lighting_View::selectLedsInBand direction" << direction;
 
     // Band coordinates are page coordinates: the band widget stands at the page's origin.
     const QPoint bandOrigin = palette_draw_rect->pos();
@@ -1854,9 +1856,9 @@ bool Lighting_View::eventFilter(QObject* watched, QEvent* event)
         if (watched != edits[c])
             continue;
         if (event->type() == QEvent::FocusIn) {
-            qDebug() << edits[c]->objectName() << "FocusIn";
+            qCDebug(lcPanel) << edits[c]->objectName() << "FocusIn";
         } else if (event->type() == QEvent::FocusOut) {
-            qDebug() << qPrintable(edits[c]->objectName() + QStringLiteral(" FocusOut"));
+            qCDebug(lcPanel) << qPrintable(edits[c]->objectName() + QStringLiteral(" FocusOut"));
             // An entry that was not confirmed with Return is discarded.
             edits[c]->setText(QString::number(sliders[c]->value()));
         }
