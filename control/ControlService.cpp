@@ -1,5 +1,7 @@
 #include "ControlService.h"
 
+#include "DesktopLanguage.h"
+
 #include <QLoggingCategory>
 
 Q_LOGGING_CATEGORY(lcService, "norvalex.control")
@@ -41,8 +43,11 @@ bool ControlService::start(QString* error)
                                         ? "state loaded from"
                                         : "starting with defaults; state file")
                                 << stateFile_.path();
-    if (loaded != StateFile::LoadResult::Loaded)
+    if (loaded != StateFile::LoadResult::Loaded) {
+        // A first start speaks the desktop's language; the stored choice holds afterwards.
+        state_.setting.languageIndex = DesktopLanguage::systemIndex();
         saveNow();
+    }
 
     monitor_ = std::make_unique<HardwareMonitor>(simulation_);
     connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::broadcastHardware);
