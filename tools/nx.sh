@@ -15,7 +15,7 @@ packages=(
   libbenchmark-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix)
+test_packages=(g++-mingw-w64-x86-64-posix xvfb xdotool x11-utils libx11-dev)
 
 install_missing() {
   local missing=()
