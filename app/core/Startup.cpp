@@ -1,5 +1,6 @@
 #include "Startup.h"
 
+#include "DataDirectory.h"
 #include "Log.h"
 #include "Platform.h"
 
@@ -10,9 +11,7 @@ namespace Startup {
 
 QString dataDirectory()
 {
-    const QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Qx"),
-                             QStringLiteral("application"));
-    return QFileInfo(settings.fileName()).absolutePath() + QStringLiteral("/NORVALEXRGB");
+    return DataDirectory::path();
 }
 
 bool isDebugMode()

@@ -2,6 +2,7 @@
 #include "AppGlobals.h"
 #include "CommandLine.h"
 #include "GraphicalSession.h"
+#include "PanelMessageBox.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
 
@@ -60,6 +61,7 @@ int main(int argc, char* argv[])
     GraphicalSession::beginConnecting();
     QApplication app(argc, argv);
     GraphicalSession::endConnecting();
+    PanelMessageBox::install();
 
     bool alreadyRunning = false;
     Platform::MutexHandle instance = Platform::createMutex(L"NORVALEX RGB.exe", &alreadyRunning);
