@@ -102,9 +102,11 @@ void QXRGBMemory::loadLibrary(const QString& libraryPath)
     m_library.SharedDLL_init();
     m_library.RegisterUIEventLightModeFunc(&QXRGBMemory::onLightModeEvent);
     m_library.RegisterUIPreviewEventFunc(&QXRGBMemory::onPreviewEvent);
-    for (int index = 0; index < NX_MODULE_COUNT; ++index)
-        qCDebug(lcPanel) << "GetValueMemorySlotNumber{" << index
-                         << "):" << m_library.GetValueMemorySlotNumber(index);
+    for (int index = 0; index < NX_MODULE_COUNT; ++index) {
+        // The calls are made whether or not the line goes anywhere.
+        const int32_t slotNumber = m_library.GetValueMemorySlotNumber(index);
+        qCDebug(lcPanel) << "GetValueMemorySlotNumber{" << index << "):" << slotNumber;
+    }
 }
 
 void QXRGBMemory::connectFrame()
@@ -310,8 +312,8 @@ void QXRGBMemory::requestSetSlotNum()
     int order[NX_MODULE_COUNT] = {0, 1, 2, 3, 4, 5, 6, 7};
     for (int i = 0; i < NX_MODULE_COUNT; ++i) {
         order[i] = m_library.GetValueMemorySlotNumber(i);
-        qCDebug(lcPanel) << "GetValueMemorySlotNumber(" << i
-                         << "):" << m_library.GetValueMemorySlotNumber(i);
+        const int32_t again = m_library.GetValueMemorySlotNumber(i);
+        qCDebug(lcPanel) << "GetValueMemorySlotNumber(" << i << "):" << again;
     }
     if (m_mainView && m_mainView->lighting_View)
         m_mainView->lighting_View->setMemorySlotNumber(NX_MODULE_COUNT, order);
@@ -321,8 +323,8 @@ void QXRGBMemory::requestSetLEDNum()
 {
     int leds[NX_MODULE_COUNT] = {};
     for (int i = 0; i < NX_MODULE_COUNT; ++i) {
-        qCDebug(lcPanel) << "LEDNUM[" << i
-                         << "]:" << m_library.GetValueHWData().memoryData[i].ledNum;
+        const int32_t logged = m_library.GetValueHWData().memoryData[i].ledNum;
+        qCDebug(lcPanel) << "LEDNUM[" << i << "]:" << logged;
         leds[i] = m_library.GetValueHWData().memoryData[i].ledNum;
     }
     emit setMemoryLEDNumber(NX_MODULE_COUNT, leds);
@@ -354,7 +356,8 @@ void QXRGBMemory::requestSetRGB()
 
 void QXRGBMemory::requestSetProfile()
 {
-    qCDebug(lcPanel) << " QXRGBMemory::requestSetProfile" << m_library.GetProfile();
+    const int32_t logged = m_library.GetProfile();
+    qCDebug(lcPanel) << " QXRGBMemory::requestSetProfile" << logged;
     emit setProfile(m_library.GetProfile());
 }
 
