@@ -12,10 +12,10 @@ jobs="${NX_JOBS:-2}"
 packages=(
   cmake make g++ pkg-config
   qtbase5-dev qttools5-dev qttools5-dev-tools
-  libbenchmark-dev
+  libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix xvfb xdotool x11-utils libx11-dev)
+test_packages=(g++-mingw-w64-x86-64-posix pulseaudio xvfb xdotool x11-utils libx11-dev)
 
 install_missing() {
   local missing=()
