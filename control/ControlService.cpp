@@ -1,6 +1,7 @@
 #include "ControlService.h"
 
 #include "AutostartEntry.h"
+#include "DesktopLanguage.h"
 #include "DesktopNotifier.h"
 #include "SimulatedModules.h"
 #include "SleepWatcher.h"
@@ -66,6 +67,8 @@ bool ControlService::start(QString* error)
                                         : "starting with defaults; state file")
                                 << stateFile_.path();
     if (loaded != StateFile::LoadResult::Loaded) {
+        // A first start speaks the desktop's language; the stored choice holds afterwards.
+        state_.setting.languageIndex = DesktopLanguage::systemIndex();
         dirty_ = true;
         commit();
     }

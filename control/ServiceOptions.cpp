@@ -38,7 +38,8 @@ bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool*
         *message = parser.errorText();
         return false;
     }
-    if (parser.isSet(helpOption)) {
+    // addHelpOption() also offers --help-all, which parse() leaves to the caller.
+    if (parser.isSet(helpOption) || parser.isSet(QStringLiteral("help-all"))) {
         *message = parser.helpText();
         *exitNow = true;
         return true;

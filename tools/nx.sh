@@ -15,7 +15,8 @@ packages=(
   libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix pulseaudio dbus-daemon clang libclang-rt-14-dev)
+test_packages=(g++-mingw-w64-x86-64-posix pulseaudio dbus-daemon clang libclang-rt-14-dev xvfb xdotool
+               x11-utils libx11-dev)
 
 install_missing() {
   local missing=()
