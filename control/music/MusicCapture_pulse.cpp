@@ -42,10 +42,10 @@ void MusicCapture::run()
     const PulseSimple* api = pulseSimple();
     if (!api)
         return;
-    pa_sample_spec spec;
-    spec.format = PA_SAMPLE_FLOAT32NE;
-    spec.rate = kSampleRate;
-    spec.channels = 1;
+    pa_sample_spec sampleFormat;
+    sampleFormat.format = PA_SAMPLE_FLOAT32NE;
+    sampleFormat.rate = kSampleRate;
+    sampleFormat.channels = 1;
     pa_buffer_attr attributes;
     attributes.maxlength = uint32_t(-1);
     attributes.tlength = uint32_t(-1);
@@ -54,7 +54,7 @@ void MusicCapture::run()
     attributes.fragsize = uint32_t(kReadFrames * sizeof(float));
     int error = 0;
     pa_simple* stream = api->open(nullptr, "norvalex-control", PA_STREAM_RECORD,
-                                  "@DEFAULT_MONITOR@", "Party beat", &spec, nullptr, &attributes,
+                                  "@DEFAULT_MONITOR@", "Party beat", &sampleFormat, nullptr, &attributes,
                                   &error);
     if (!stream)
         return;

@@ -127,13 +127,13 @@ void MusicTest::hearsTheDesktop()
     capture.start();
     QTRY_VERIFY_WITH_TIMEOUT(capture.listening(), 10000);
 
-    pa_sample_spec spec;
-    spec.format = PA_SAMPLE_FLOAT32NE;
-    spec.rate = kRate;
-    spec.channels = 1;
+    pa_sample_spec sampleFormat;
+    sampleFormat.format = PA_SAMPLE_FLOAT32NE;
+    sampleFormat.rate = kRate;
+    sampleFormat.channels = 1;
     int error = 0;
     pa_simple* player = pa_simple_new(nullptr, "norvalex-test", PA_STREAM_PLAYBACK, nullptr,
-                                      "drums", &spec, nullptr, nullptr, &error);
+                                      "drums", &sampleFormat, nullptr, nullptr, &error);
     QVERIFY(player);
     const std::vector<float> audio = drums(120, 6.0);
     // Written a tenth of a second at a time: the server takes it at the pace it plays.
