@@ -46,8 +46,6 @@ case "${1:-}" in
   test)
     install_missing "${packages[@]}" "${test_packages[@]}"
     configure_and_build
-    cd "$build"
-    ctest -j"$jobs" --output-on-failure
     # The protocol decoders under libFuzzer for a minute, from a clang build of their own.
     if command -v clang++ >/dev/null; then
       cmake -S "$here" -B "$build-fuzz" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
@@ -56,6 +54,9 @@ case "${1:-}" in
       cmake --build "$build-fuzz" -j"$jobs" --target nx_fuzz_frame_decoder
       ctest --test-dir "$build-fuzz" -R '^fuzz\.' --output-on-failure
     fi
+    # The whole suite last, so that its summary closes the output.
+    cd "$build"
+    ctest -j"$jobs" --output-on-failure
     ;;
   build)
     install_missing "${packages[@]}"
