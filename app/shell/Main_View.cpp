@@ -13,6 +13,7 @@
 #include <QButtonGroup>
 #include <QCoreApplication>
 #include <QDebug>
+#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -38,6 +39,7 @@ const char* const kWindowTitle = "NORVALEX RGB";
 const wchar_t* const kMessageWindowTitle = L"NORVALEX RGB";
 #endif
 const char* const kBackgroundImage = ":/QXRGBMemory/Images/Main_BG.png";
+const char* const kWindowIcon = ":/QXRGBMemory/Images/AppIcon.png";
 
 constexpr int kLogoWidth = 146;
 constexpr int kLogoHeight = 23;
@@ -90,6 +92,7 @@ QString menuButtonStyle(const QString& name)
 Main_View::Main_View(QWidget* parent) : QWidget(parent)
 {
     setWindowTitle(QString::fromLatin1(kWindowTitle));
+    setWindowIcon(QIcon(QString::fromLatin1(kWindowIcon)));
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     resize(kFrameWidth, kFrameHeight);
     setObjectName(QStringLiteral("Main_View"));
