@@ -1,0 +1,13 @@
+# Fails when PROGRAM needs a GUI library: readelf -d lists no QtGui, QtWidgets or X library.
+execute_process(COMMAND ${READELF} -d ${PROGRAM} OUTPUT_VARIABLE dynamic RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "readelf failed on ${PROGRAM}")
+endif()
+string(REGEX MATCHALL "NEEDED[^\n]*\\[[^]]+\\]" needed "${dynamic}")
+foreach(entry IN LISTS needed)
+  if(entry MATCHES "libQt5(Gui|Widgets|XcbQpa)|libX11|libxcb|libGL")
+    message(FATAL_ERROR "${PROGRAM} needs a GUI library: ${entry}")
+  endif()
+endforeach()
+list(LENGTH needed count)
+message(STATUS "${count} libraries needed, none of them graphical")
