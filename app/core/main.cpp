@@ -1,5 +1,6 @@
 // Entry point of the panel: one instance per user, then the controller.
 #include "AppGlobals.h"
+#include "PanelMessageBox.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
 #include "Startup.h"
@@ -49,6 +50,7 @@ int main(int argc, char* argv[])
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication app(argc, argv);
+    PanelMessageBox::install();
 
     bool alreadyRunning = false;
     Platform::MutexHandle instance = Platform::createMutex(L"NORVALEX RGB.exe", &alreadyRunning);
