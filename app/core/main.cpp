@@ -50,6 +50,8 @@ int main(int argc, char* argv[])
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication app(argc, argv);
+    // Lets the desktop match the window to its entry (Wayland app id, task bar icon).
+    QGuiApplication::setDesktopFileName(QStringLiteral(NX_APP_ID));
     PanelMessageBox::install();
 
     bool alreadyRunning = false;
