@@ -81,8 +81,12 @@ if(NOT exec STREQUAL "ExecStart=${private}/norvalex-control")
   fail("the user unit starts '${exec}', not the installed service")
 endif()
 
-set(runtime ${WORK_DIR}/runtime)
-file(MAKE_DIRECTORY ${runtime})
+# A short runtime directory: socket paths are limited to 107 bytes.
+execute_process(COMMAND mktemp -d OUTPUT_VARIABLE runtime OUTPUT_STRIP_TRAILING_WHITESPACE
+                RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "mktemp -d failed")
+endif()
 file(CHMOD ${runtime} DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 macro(validate)
   execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE output
@@ -108,6 +112,7 @@ validate(${CMAKE_COMMAND} -E env XDG_RUNTIME_DIR=${runtime} XDG_CONFIG_HOME=${WO
          HOME=${WORK_DIR} QT_QPA_PLATFORM=offscreen
          sh ${CMAKE_CURRENT_LIST_DIR}/run_installed.sh ${prefix}/bin ${private})
 
+file(REMOVE_RECURSE ${runtime})
 if(failures)
   list(JOIN failures "\n" text)
   message(FATAL_ERROR "${text}")

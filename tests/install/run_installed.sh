@@ -6,30 +6,37 @@ bin=$1
 private=$2
 ctl="$bin/norvalexctl"
 
-"$bin/norvalex-rgb" --version | grep -q "NORVALEX RGB" || { echo "norvalex-rgb --version"; exit 1; }
+# The pid of a norvalex-control started from the private folder, if one runs.
+installed_service() {
+    for proc in /proc/[0-9]*; do
+        if [ "$(readlink "$proc/exe" 2>/dev/null)" = "$private/norvalex-control" ]; then
+            echo "${proc#/proc/}"
+        fi
+    done
+}
+
+fail() {
+    echo "$1"
+    [ -n "${panel:-}" ] && kill "$panel" 2>/dev/null
+    for pid in $(installed_service); do kill "$pid"; done
+    exit 1
+}
+
+"$bin/norvalex-rgb" --version | grep -q "NORVALEX RGB" || fail "norvalex-rgb --version"
 "$ctl" status >/dev/null 2>&1
-[ $? -eq 3 ] || { echo "norvalexctl status without a service does not exit 3"; exit 1; }
+[ $? -eq 3 ] || fail "norvalexctl status without a service does not exit 3"
 
 "$bin/norvalex-rgb" >/dev/null 2>&1 &
 panel=$!
 tries=0
 until "$ctl" status >/dev/null 2>&1; do
     tries=$((tries + 1))
-    if [ $tries -gt 300 ]; then
-        kill $panel
-        echo "the installed panel did not start the installed service"
-        exit 1
-    fi
+    [ $tries -gt 300 ] && fail "the installed panel did not start the installed service"
     sleep 0.1
 done
-service=""
-for proc in /proc/[0-9]*; do
-    [ "$(readlink "$proc/exe" 2>/dev/null)" = "$private/norvalex-control" ] && service=${proc#/proc/}
-done
-"$ctl" stop
-stopped=$?
-kill $panel
-wait $panel 2>/dev/null
-[ -n "$service" ] || { echo "the running service is not the one in $private"; exit 1; }
-[ $stopped -eq 0 ] || { echo "norvalexctl stop exited $stopped"; exit 1; }
+[ -n "$(installed_service)" ] || fail "the running service is not the one in $private"
+"$ctl" stop || fail "norvalexctl stop failed"
+[ -z "$(installed_service)" ] || fail "the service still runs after norvalexctl stop"
+kill "$panel"
+wait "$panel" 2>/dev/null
 exit 0
