@@ -4,6 +4,7 @@
 #include "LightingSession.h"
 #include "ModeNames.h"
 #include "Platform.h"
+#include "SocketPath.h"
 #include "StatusReport.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocalSocket>
 #include <QThread>
 
 #include <algorithm>
@@ -18,12 +20,12 @@
 
 namespace {
 
-const wchar_t kControlMutex[] = L"NORVALEX Control.exe";
 const wchar_t kControlWindow[] = L"NORVALEX RGB Control";
 constexpr int kConnectTimeoutMs = 5000;
 constexpr int kConfirmTimeoutMs = 5000;
 constexpr int kStopTimeoutMs = 10000;
 constexpr int kStopPollMs = 50;
+constexpr int kProbeTimeoutMs = 1000;
 constexpr int kClockMode = 31;
 
 // Change bits of the light-mode event.
@@ -42,6 +44,15 @@ void out(const QString& text)
 void complain(const QString& text)
 {
     std::fprintf(stderr, "norvalexctl: %s\n", text.toUtf8().constData());
+}
+
+// Whether the service accepts connections. Only looks: probing its lock could make a service
+// that is just starting believe another one runs.
+bool serviceAnswers()
+{
+    QLocalSocket socket;
+    socket.connectToServer(QString::fromStdString(nxproto::socketPath()));
+    return socket.waitForConnected(kProbeTimeoutMs);
 }
 
 QString notRunning()
@@ -90,7 +101,7 @@ int CommandRunner::run(const Command& command)
         break;
     }
 
-    if (!Platform::mutexExists(kControlMutex)) {
+    if (!serviceAnswers()) {
         complain(notRunning());
         return ExitNoService;
     }
@@ -146,7 +157,7 @@ int CommandRunner::listModes(bool json)
 
 int CommandRunner::stopService()
 {
-    if (!Platform::mutexExists(kControlMutex)) {
+    if (!serviceAnswers()) {
         complain(QStringLiteral("norvalex-control is not running"));
         return ExitOk;
     }
@@ -156,10 +167,10 @@ int CommandRunner::stopService()
         return ExitFailed;
     }
     Platform::sendMessage(window, Platform::kMessageQuit, 0, 0);
-    // The service saves its state before it lets go of its lock.
+    // The service saves its state before it closes its socket.
     QElapsedTimer clock;
     clock.start();
-    while (Platform::mutexExists(kControlMutex)) {
+    while (serviceAnswers()) {
         if (clock.elapsed() > kStopTimeoutMs) {
             complain(QStringLiteral("norvalex-control did not stop within 10 seconds"));
             return ExitFailed;
