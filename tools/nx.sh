@@ -18,7 +18,7 @@ packages=(
 )
 test_packages=(g++-mingw-w64-x86-64-posix)
 # Checks of the installed tree and of the Debian package.
-package_packages=(dpkg-dev fakeroot file lintian desktop-file-utils appstream systemd)
+package_packages=(dpkg-dev fakeroot file lintian desktop-file-utils appstream systemd bash-completion)
 
 install_missing() {
   local missing=()
