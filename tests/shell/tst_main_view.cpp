@@ -302,11 +302,20 @@ void TestMainView::nativeMessages()
 }
 
 // The frame carries the application icon, which desktops show in the task bar: the logo's mark
-// on a tile, transparent outside the tile's rounded corners.
+// on a tile, transparent outside the tile's rounded corners, in the small sizes task bars use.
 void TestMainView::windowIcon()
 {
     const QIcon icon = frame->windowIcon();
     QVERIFY(!icon.isNull());
+    const QList<QSize> sizes = icon.availableSizes();
+    QVERIFY(sizes.contains(QSize(16, 16)));
+    QVERIFY(sizes.contains(QSize(32, 32)));
+    // X11 takes every size in one _NET_WM_ICON request: at most 65535 words of 32 bits.
+    int words = 0;
+    for (const QSize& size : sizes)
+        words += 2 + size.width() * size.height();
+    QVERIFY2(words <= 65535, qPrintable(QString::number(words)));
+
     const QImage image = icon.pixmap(64, 64).toImage().convertToFormat(QImage::Format_ARGB32);
     QCOMPARE(image.size(), QSize(64, 64));
     QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
