@@ -1,6 +1,10 @@
 #include "ControlService.h"
 
 #include <QLoggingCategory>
+#include <QRandomGenerator>
+#include <QTime>
+
+#include <algorithm>
 
 Q_LOGGING_CATEGORY(lcService, "norvalex.control")
 
@@ -21,6 +25,7 @@ ControlService::ControlService(const ServiceOptions& options, const QString& sta
     saveTimer_.setInterval(kSaveDelayMs);
     connect(&saveTimer_, &QTimer::timeout, this, &ControlService::saveNow);
 
+    seed_ = QRandomGenerator::global()->generate64();
     frameTimer_.setTimerType(Qt::PreciseTimer);
     frameTimer_.setInterval(kFrameIntervalMs);
     connect(&frameTimer_, &QTimer::timeout, this, &ControlService::renderFrame);
@@ -46,6 +51,8 @@ bool ControlService::start(QString* error)
 
     monitor_ = std::make_unique<HardwareMonitor>(simulation_);
     connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::broadcastHardware);
+    // Temperatures feed the picture.
+    connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::updateRendering);
     qCInfo(lcService) << "simulating" << simulation_.modules << "modules with" << simulation_.leds
                       << "LEDs";
 
@@ -53,13 +60,14 @@ bool ControlService::start(QString* error)
         return false;
     monitor_->start();
     clock_.start();
-    frameTimer_.start();
+    updateRendering();
     return true;
 }
 
 void ControlService::stop()
 {
     frameTimer_.stop();
+    music_.stop();
     broadcastTimer_.stop();
     if (monitor_)
         monitor_->disconnect(this);
@@ -81,6 +89,10 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
         return;
     case nxproto::MessageType::SetPreview:
         client.setWantsPreview(request.preview);
+        // A new subscriber gets the current picture at once, even a static one.
+        if (request.preview)
+            haveFrame_ = false;
+        updateRendering();
         return;
     default:
         break;
@@ -123,6 +135,8 @@ void ControlService::broadcastState()
     message.changes = pendingChanges_;
     message.state = state_;
     pendingChanges_ = 0;
+    if (message.changes != 0)
+        updateRendering();
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
         // A change goes to everyone; a bare acknowledgement only to whom it is owed.
@@ -142,12 +156,80 @@ void ControlService::broadcastHardware()
         client->send(frame);
 }
 
+int ControlService::addFrameSink(FrameSink sink)
+{
+    const int id = nextSinkId_++;
+    sinks_.emplace(id, std::move(sink));
+    haveFrame_ = false;
+    updateRendering();
+    return id;
+}
+
+void ControlService::removeFrameSink(int id)
+{
+    sinks_.erase(id);
+}
+
+bool ControlService::framesWanted() const
+{
+    if (!sinks_.empty())
+        return true;
+    const auto& clients = server_.clients();
+    return std::any_of(clients.begin(), clients.end(),
+                       [](const ClientConnection* client) { return client->wantsPreview(); });
+}
+
+void ControlService::updateRendering()
+{
+    if (!monitor_ || !framesWanted()) {
+        frameTimer_.stop();
+        music_.stop();
+        return;
+    }
+    // A running frame clock picks the change up at its next tick.
+    if (!frameTimer_.isActive())
+        renderFrame();
+}
+
 void ControlService::renderFrame()
 {
+    if (!framesWanted()) {
+        frameTimer_.stop();
+        music_.stop();
+        return;
+    }
+    nxfx::SceneInput scene;
+    scene.seconds = double(clock_.elapsed()) / 1000.0;
+    scene.seed = seed_;
+    const QTime now = QTime::currentTime();
+    scene.hour = now.hour();
+    scene.minute = now.minute();
+    scene.second = now.second() + now.msec() / 1000.0;
+    if (EffectRenderer::wantsMusic(state_, monitor_->info())) {
+        if (!music_.started())
+            qCInfo(lcService) << "Party: listening for the desktop's music";
+        music_.start();
+        const MusicCapture::Reading music = music_.reading();
+        scene.beat = music.beat;
+        scene.loudness = music.loudness;
+    } else {
+        music_.stop();
+    }
+
     nxproto::PreviewMessage message;
+    const bool animated = EffectRenderer::render(state_, monitor_->info(), scene, message.colors);
+    if (!animated)
+        frameTimer_.stop();
+    else if (!frameTimer_.isActive())
+        frameTimer_.start();
+    if (haveFrame_ && std::equal(&message.colors[0][0],
+                                 &message.colors[0][0] + nxproto::kSlotCount * nxproto::kLedCount,
+                                 &lastFrame_.colors[0][0]))
+        return;
     message.frame = ++frameNumber_;
-    EffectRenderer::render(state_, monitor_->info(), double(clock_.elapsed()) / 1000.0,
-                           message.colors);
+    lastFrame_ = message;
+    haveFrame_ = true;
+
     std::vector<uint8_t> frame;
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
@@ -157,6 +239,10 @@ void ControlService::renderFrame()
             frame = nxproto::encodePreview(message);
         client->send(frame);
     }
+    // A sink may remove itself or another while it runs.
+    const auto sinks = sinks_;
+    for (const auto& entry : sinks)
+        entry.second(message);
 }
 
 void ControlService::scheduleSave()

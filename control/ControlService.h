@@ -4,6 +4,7 @@
 #include "ControlState.h"
 #include "EffectRenderer.h"
 #include "HardwareMonitor.h"
+#include "MusicCapture.h"
 #include "ServiceOptions.h"
 #include "StateFile.h"
 
@@ -11,6 +12,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <unordered_map>
 
@@ -36,6 +39,12 @@ public:
     const nxproto::ControlState& state() const { return state_; }
     const SimulationConfig& simulation() const { return simulation_; }
 
+    // Outputs that want every rendered frame (the LED drivers). The service renders only while
+    // a preview subscriber or a sink wants frames, and sends a picture again only when it changed.
+    using FrameSink = std::function<void(const nxproto::PreviewMessage&)>;
+    int addFrameSink(FrameSink sink);
+    void removeFrameSink(int id);
+
 private:
     void handleRequest(ClientConnection& client, const nxproto::Request& request);
     void welcome(ClientConnection* client);
@@ -43,6 +52,10 @@ private:
     void broadcastState();
     void broadcastHardware();
     void renderFrame();
+    // Starts or stops the frame clock after anything that may change the picture or the
+    // demand for it, and renders at once when frames are wanted.
+    void updateRendering();
+    bool framesWanted() const;
     void scheduleSave();
     void saveNow();
 
@@ -65,4 +78,10 @@ private:
     QTimer frameTimer_;
     QElapsedTimer clock_;
     uint32_t frameNumber_ = 0;
+    uint64_t seed_ = 0;
+    std::map<int, FrameSink> sinks_;
+    int nextSinkId_ = 1;
+    MusicCapture music_; // open only while a Party mode is rendered
+    nxproto::PreviewMessage lastFrame_;
+    bool haveFrame_ = false;
 };

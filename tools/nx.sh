@@ -13,10 +13,10 @@ jobs="${NX_JOBS:-2}"
 packages=(
   cmake make g++ pkg-config
   qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
-  libbenchmark-dev
+  libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix)
+test_packages=(g++-mingw-w64-x86-64-posix pulseaudio)
 # Checks of the installed tree and of the Debian package.
 package_packages=(dpkg-dev fakeroot file lintian desktop-file-utils appstream systemd bash-completion)
 
