@@ -61,6 +61,8 @@ int main(int argc, char* argv[])
     GraphicalSession::beginConnecting();
     QApplication app(argc, argv);
     GraphicalSession::endConnecting();
+    // Lets the desktop match the window to its entry (Wayland app id, task bar icon).
+    QGuiApplication::setDesktopFileName(QStringLiteral(NX_APP_ID));
     PanelMessageBox::install();
 
     bool alreadyRunning = false;

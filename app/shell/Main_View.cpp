@@ -14,6 +14,7 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -39,6 +40,9 @@ const char* const kWindowTitle = "NORVALEX RGB";
 const wchar_t* const kMessageWindowTitle = L"NORVALEX RGB";
 #endif
 const char* const kBackgroundImage = ":/QXRGBMemory/Images/Main_BG.png";
+const char* const kWindowIcon = ":/QXRGBMemory/Images/AppIcon.png";
+// Sizes handed to the window system; X11 refuses a property as large as the 256-pixel picture.
+constexpr int kWindowIconSizes[] = {16, 24, 32, 48, 64, 128};
 
 constexpr int kLogoWidth = 146;
 constexpr int kLogoHeight = 23;
@@ -86,12 +90,21 @@ QString menuButtonStyle(const QString& name)
            QStringLiteral("::checked {font-family: Arial; font-size:18px; border:none; "
                           "color:white;text-align :left;}");
 }
+QIcon windowIconSet()
+{
+    const QPixmap source(QString::fromLatin1(kWindowIcon));
+    QIcon icon;
+    for (int size : kWindowIconSizes)
+        icon.addPixmap(source.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    return icon;
+}
 } // namespace
 
 Main_View::Main_View(QWidget* parent) : QWidget(parent)
 {
     setWindowTitle(QString::fromLatin1(kWindowTitle));
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+    setWindowIcon(windowIconSet());
     resize(kFrameWidth, kFrameHeight);
     setObjectName(QStringLiteral("Main_View"));
     setFocusPolicy(Qt::ClickFocus);
