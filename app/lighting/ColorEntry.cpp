@@ -2,9 +2,9 @@
 
 #include "ChannelValidator.h"
 #include "LightingLook.h"
+#include "Log.h"
 #include "RGB_Palette.h"
 
-#include <QDebug>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -87,7 +87,7 @@ void ColorEntry::showValue(int channel, int value)
 COLORREF ColorEntry::commit(int channel)
 {
     QLineEdit* field = fields[channel];
-    qDebug() << "Lighting_View::commitLineEdit" << field->objectName() << field->text();
+    qCDebug(lcPanel) << "Lighting_View::commitLineEdit" << field->objectName() << field->text();
     sliders[channel]->setValue(field->text().toInt());
     field->clearFocus();
     return enteredColor();
@@ -99,9 +99,9 @@ void ColorEntry::filterFieldEvent(QObject* watched, QEvent* event)
         if (watched != fields[c])
             continue;
         if (event->type() == QEvent::FocusIn) {
-            qDebug() << fields[c]->objectName() << "FocusIn";
+            qCDebug(lcPanel) << fields[c]->objectName() << "FocusIn";
         } else if (event->type() == QEvent::FocusOut) {
-            qDebug() << qPrintable(fields[c]->objectName() + QStringLiteral(" FocusOut"));
+            qCDebug(lcPanel) << qPrintable(fields[c]->objectName() + QStringLiteral(" FocusOut"));
             // An entry that was not confirmed with Return is discarded.
             fields[c]->setText(QString::number(sliders[c]->value()));
         }

@@ -1,6 +1,7 @@
 #include "RGB_Palette.h"
 
-#include <QDebug>
+#include "Log.h"
+
 #include <QImage>
 #include <QLabel>
 #include <QMouseEvent>
@@ -51,10 +52,11 @@ bool RGB_Palette::pickColour(const QPoint& click, const QSize& widgetSize, COLOR
 
 void RGB_Palette::mousePressEvent(QMouseEvent* event)
 {
-    qDebug() << "RGB_Palette::mousePressEvent" << event->pos().x() << event->pos().y();
+    qCDebug(lcPanel) << "RGB_Palette::mousePressEvent" << event->pos().x() << event->pos().y();
     COLORREF colour = 0;
     if (!pickColour(event->pos(), size(), &colour))
         return;
-    qDebug() << "取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF) << ((colour >> 16) & 0xFF);
+    qCDebug(lcPanel) << "取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF)
+                     << ((colour >> 16) & 0xFF);
     emit pressRGB(colour);
 }

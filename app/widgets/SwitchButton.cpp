@@ -1,6 +1,7 @@
 #include "SwitchButton.h"
 
-#include <QDebug>
+#include "Log.h"
+
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
@@ -67,7 +68,7 @@ void SwitchButton::_checkBtn()
     knobAnimation->setEndValue(checked ? offPosition() : onPosition());
     knobAnimation->start();
     checked = !checked;
-    qDebug() << "SwitchButton::_checkBtn" << checked;
+    qCDebug(lcPanel) << "SwitchButton::_checkBtn" << checked;
     showKnobPicture();
 }
 

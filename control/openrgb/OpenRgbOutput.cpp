@@ -2,7 +2,6 @@
 
 #include "OrgbLog.h"
 #include "OrgbPacket.h"
-#include "ResumeWatch.h"
 #include "SdkConnection.h"
 
 #include <QDateTime>
@@ -40,14 +39,6 @@ OpenRgbOutput::OpenRgbOutput(QString host, quint16 port, QObject* parent)
     });
     retryTimer_.setSingleShot(true);
     connect(&retryTimer_, &QTimer::timeout, this, &OpenRgbOutput::connectNow);
-    auto* resume = new ResumeWatch(this);
-    connect(resume, &ResumeWatch::resumed, this, [this] {
-        qCInfo(lcOpenRgb) << "resumed; applying the lighting again";
-        if (connected())
-            reapply();
-        else if (stage_ == Stage::Idle)
-            connectNow();
-    });
 }
 
 OpenRgbOutput::~OpenRgbOutput()
@@ -246,8 +237,16 @@ void OpenRgbOutput::applyModes()
 
 void OpenRgbOutput::reapply()
 {
-    if (!connected())
+    if (!connected()) {
+        // After a resume the server may well be back: no need to sit out the back-off.
+        if (stage_ == Stage::Idle) {
+            retryTimer_.stop();
+            retryMs_ = kFirstRetryMs;
+            connectNow();
+        }
         return;
+    }
+    qCInfo(lcOpenRgb) << "applying the lighting to the DRAM controllers again";
     applyModes();
     flush(true);
 }

@@ -22,7 +22,7 @@ struct Packet;
 // protocol version, lists the controllers, maps the DRAM ones to slots by location, puts each
 // into its Direct mode and sends the frames that changed, at most kMaxFps a second. When the
 // server goes away it reconnects with back-off and then applies everything again; it does the
-// same after the machine resumed and when the server's device list changes.
+// same when asked to after a resume and when the server's device list changes.
 class OpenRgbOutput : public QObject, public FrameOutput
 {
     Q_OBJECT
@@ -47,7 +47,8 @@ public:
     bool wantsFrames() const override { return stage_ == Stage::Streaming; }
     void showFrame(const Colors& frame) override;
 
-    // Puts the controllers into Direct mode again and sends the whole frame.
+    // Puts the controllers into Direct mode again and sends the whole frame (after a resume);
+    // while the server is away, tries to reach it at once.
     void reapply();
 
     bool connected() const { return stage_ == Stage::Streaming; }

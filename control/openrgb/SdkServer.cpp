@@ -79,6 +79,7 @@ void SdkServer::acceptPending()
         auto* session = new SdkSession(socket, *this, this);
         connect(session, &SdkSession::finished, this, &SdkServer::removeSession);
         sessions_.push_back(session);
+        emit sessionsChanged();
     }
 }
 
@@ -89,4 +90,5 @@ void SdkServer::removeSession(SdkSession* session)
         return;
     sessions_.erase(found);
     session->deleteLater();
+    emit sessionsChanged();
 }

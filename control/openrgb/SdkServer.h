@@ -47,6 +47,8 @@ signals:
     void lightModeRequested(int slot, int lightMode, int lightSpeed);
     // A client changed colours of a directly driven module.
     void directChanged();
+    // A client came or went.
+    void sessionsChanged();
 
 private:
     void acceptPending();

@@ -39,6 +39,26 @@ bool controllerData(SdkProbe& probe, uint32_t index, orgb::Controller* out)
            orgb::decodeController(packet.body, orgb::kProtocolVersion, out, &error);
 }
 
+bool anyLit(const std::vector<orgb::Color>& colors)
+{
+    return std::any_of(colors.begin(), colors.end(), [](orgb::Color c) { return c != 0; });
+}
+
+// Reads the panel's frames of `type` until one satisfies `accept`. Not for QTRY_*: those
+// evaluate their condition more than once, and a still picture is sent only once.
+template <typename Decode>
+bool nextMatching(RawClient& panel, nxproto::MessageType type, Decode accept, int timeoutMs)
+{
+    QElapsedTimer clock;
+    clock.start();
+    for (qint64 left = timeoutMs; left > 0; left = timeoutMs - clock.elapsed()) {
+        nxproto::Frame frame;
+        if (panel.waitFor(type, &frame, int(left)) && accept(frame))
+            return true;
+    }
+    return false;
+}
+
 QByteArray bytes(const std::vector<uint8_t>& data)
 {
     return QByteArray(reinterpret_cast<const char*>(data.data()), int(data.size()));
@@ -124,6 +144,14 @@ void TestOpenRgbService::outputDrivesOurServer()
     QVERIFY(service.start(
         {sdkArgument(port), QStringLiteral("--modules=4"), QStringLiteral("--leds=8")}));
 
+    // A connected SDK client is enough for the service to render: the modules show their
+    // lighting, not Direct mode.
+    SdkProbe probe;
+    QVERIFY(probe.connectTo(port));
+    orgb::Controller seen;
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 1, &seen) && anyLit(seen.colors), 10000);
+    QVERIFY(seen.activeMode != 0);
+
     OpenRgbOutput output(QStringLiteral("127.0.0.1"), port);
     output.start();
     QTRY_VERIFY_WITH_TIMEOUT(output.connected(), 10000);
@@ -141,9 +169,6 @@ void TestOpenRgbService::outputDrivesOurServer()
         for (int led = 0; led < 8; ++led)
             frame[slot][led] = COLORREF(0x010203 * (slot * 8 + led + 1));
     output.showFrame(frame);
-    SdkProbe probe;
-    QVERIFY(probe.connectTo(port));
-    orgb::Controller seen;
     QTRY_VERIFY(controllerData(probe, 3, &seen) &&
                 seen.colors == std::vector<orgb::Color>(frame[3], frame[3] + 8));
     QCOMPARE(seen.activeMode, 0);
@@ -159,22 +184,24 @@ void TestOpenRgbService::outputDrivesOurServer()
     preview.preview = true;
     panel.send(preview);
     nxproto::PreviewMessage shown;
-    QTRY_VERIFY([&] {
-        nxproto::Frame message;
-        return panel.waitFor(nxproto::MessageType::Preview, &message, 1000) &&
-               nxproto::decodePreview(message, shown, nullptr) &&
-               std::equal(frame[2], frame[2] + 8, shown.colors[2]);
-    }());
+    QVERIFY(nextMatching(
+        panel, nxproto::MessageType::Preview,
+        [&](const nxproto::Frame& message) {
+            return nxproto::decodePreview(message, shown, nullptr) &&
+                   std::equal(frame[2], frame[2] + 8, shown.colors[2]);
+        },
+        10000));
 
     // Until the user changes that module on the panel: its own lighting comes back.
     panel.send(lightingRequest(2, 6));
-    QTRY_VERIFY([&] {
-        nxproto::Frame message;
-        return panel.waitFor(nxproto::MessageType::Preview, &message, 1000) &&
-               nxproto::decodePreview(message, shown, nullptr) &&
-               !std::equal(frame[2], frame[2] + 8, shown.colors[2]) &&
-               std::equal(frame[3], frame[3] + 8, shown.colors[3]);
-    }());
+    QVERIFY(nextMatching(
+        panel, nxproto::MessageType::Preview,
+        [&](const nxproto::Frame& message) {
+            return nxproto::decodePreview(message, shown, nullptr) &&
+                   !std::equal(frame[2], frame[2] + 8, shown.colors[2]) &&
+                   std::equal(frame[3], frame[3] + 8, shown.colors[3]);
+        },
+        10000));
 }
 
 void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection_data()
@@ -250,13 +277,12 @@ void TestOpenRgbService::serviceDrivesService()
     RawClient panel;
     QVERIFY(panel.connectTo(b.socketPath()));
     nxproto::HardwareInfo info;
-    QTRY_VERIFY_WITH_TIMEOUT(
-        [&] {
-            nxproto::Frame frame;
-            return panel.waitFor(nxproto::MessageType::Hardware, &frame, 1500) &&
-                   nxproto::decodeHardware(frame, info, nullptr) && info.memoryCount == 2;
-        }(),
-        15000);
+    QVERIFY(nextMatching(
+        panel, nxproto::MessageType::Hardware,
+        [&](const nxproto::Frame& frame) {
+            return nxproto::decodeHardware(frame, info, nullptr) && info.memoryCount == 2;
+        },
+        15000));
     QCOMPARE(info.modules[0].ledNum, 5);
     QVERIFY(info.modules[1].present);
     QCOMPARE(info.modules[0].modelCode, std::string("KX44"));
@@ -267,18 +293,18 @@ void TestOpenRgbService::serviceDrivesService()
     QVERIFY(probe.connectTo(port));
     orgb::Controller seen;
     QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && seen.activeMode == 0, 10000);
+    // B renders for its output alone (its panel wants no preview): A's module shows B's
+    // picture, not the black that B's output starts from.
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && anyLit(seen.colors), 10000);
 
     // A's server going away leaves B running, still reporting the modules, but with a time
     // stamp that no longer advances, so the panel sees the data go stale.
     QVERIFY(a.terminate());
     nxproto::HardwareInfo later;
-    QTRY_VERIFY_WITH_TIMEOUT(
-        [&] {
-            nxproto::Frame frame;
-            return panel.waitFor(nxproto::MessageType::Hardware, &frame, 1500) &&
-                   nxproto::decodeHardware(frame, info, nullptr);
-        }(),
-        5000);
+    QVERIFY(nextMatching(
+        panel, nxproto::MessageType::Hardware,
+        [&](const nxproto::Frame& frame) { return nxproto::decodeHardware(frame, info, nullptr); },
+        5000));
     QTest::qWait(2200);
     nxproto::Frame frame;
     QVERIFY(panel.waitFor(nxproto::MessageType::Hardware, &frame, 3000));

@@ -234,19 +234,19 @@
     </message>
     <message>
         <source>Fast</source>
-        <translation>快</translation>
+        <translation>快速</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation>一般</translation>
+        <translation>中速</translation>
     </message>
     <message>
         <source>Slow</source>
-        <translation>慢</translation>
+        <translation>慢速</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation>配置</translation>
+        <translation>配置文件</translation>
     </message>
     <message>
         <source>Apply</source>

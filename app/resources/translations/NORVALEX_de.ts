@@ -70,7 +70,7 @@
     </message>
     <message>
         <source>Ripple</source>
-        <translation>Kräuseln</translation>
+        <translation>Wellenringe</translation>
     </message>
     <message>
         <source>Blink</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Extreme</source>
-        <translation>Extrem</translation>
+        <translation>Sehr schnell</translation>
     </message>
     <message>
         <source>Fast</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Light Speed</source>
-        <translation>Lichtgeschwindigkeit</translation>
+        <translation>Effektgeschwindigkeit</translation>
     </message>
     <message>
         <source>ON</source>
@@ -308,7 +308,7 @@
     <name>Main_View</name>
     <message>
         <source>Information</source>
-        <translation>Information</translation>
+        <translation>Informationen</translation>
     </message>
     <message>
         <source>Lighting</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>Notification</source>
-        <translation>Hinweise</translation>
+        <translation>Meldungen</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -327,7 +327,7 @@
     <name>Noti_View</name>
     <message>
         <source>Setting Notification</source>
-        <translation>Benachrichtigungen</translation>
+        <translation>Meldungen einrichten</translation>
     </message>
     <message>
         <source>Loading</source>

@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>Wave</source>
-        <translation>Ola</translation>
+        <translation>Onda</translation>
     </message>
     <message>
         <source>Static</source>
@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>Stack</source>
-        <translation>Apilar</translation>
+        <translation>Apilado</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Aim</source>
-        <translation>Apuntar</translation>
+        <translation>Mira</translation>
     </message>
     <message>
         <source>RGB</source>
@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Single</source>
-        <translation>Único</translation>
+        <translation>Color único</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Extreme</source>
-        <translation>Extremo</translation>
+        <translation>Muy rápido</translation>
     </message>
     <message>
         <source>Fast</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Light Speed</source>
-        <translation>Velocidad de luz</translation>
+        <translation>Velocidad del efecto</translation>
     </message>
     <message>
         <source>ON</source>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Current_Location</source>
-        <translation>Activar la ubicación para recibir el tiempo local</translation>
+        <translation>Activar la ubicación para recibir el clima local</translation>
     </message>
     <message>
         <source>Version</source>
@@ -472,7 +472,7 @@
     </message>
     <message>
         <source>Location_Warning_Content</source>
-        <translation>Prismveil - NORVALEX desea usar su ubicación actual para obtener la hora y el tiempo.</translation>
+        <translation>Prismveil - NORVALEX desea usar su ubicación actual para obtener la hora y el clima.</translation>
     </message>
     <message>
         <source>Location_Not_Remind</source>

@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Single</source>
-        <translation>Unique</translation>
+        <translation>Couleur unique</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Extreme</source>
-        <translation>Extrême</translation>
+        <translation>Très rapide</translation>
     </message>
     <message>
         <source>Fast</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Light Speed</source>
-        <translation>Vitesse</translation>
+        <translation>Vitesse de l’effet</translation>
     </message>
     <message>
         <source>ON</source>

@@ -234,7 +234,7 @@
     </message>
     <message>
         <source>Fast</source>
-        <translation>速い</translation>
+        <translation>高速</translation>
     </message>
     <message>
         <source>Normal</source>
@@ -242,7 +242,7 @@
     </message>
     <message>
         <source>Slow</source>
-        <translation>遅い</translation>
+        <translation>低速</translation>
     </message>
     <message>
         <source>Profile</source>

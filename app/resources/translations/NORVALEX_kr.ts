@@ -70,7 +70,7 @@
     </message>
     <message>
         <source>Ripple</source>
-        <translation>물결</translation>
+        <translation>파문</translation>
     </message>
     <message>
         <source>Blink</source>
@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>Wave</source>
-        <translation>웨이브</translation>
+        <translation>물결</translation>
     </message>
     <message>
         <source>Static</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Light Speed</source>
-        <translation>조명 속도</translation>
+        <translation>효과 속도</translation>
     </message>
     <message>
         <source>ON</source>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Extreme</source>
-        <translation>Экстрим</translation>
+        <translation>Очень быстро</translation>
     </message>
     <message>
         <source>Fast</source>
@@ -238,7 +238,7 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>Обычно</translation>
+        <translation>Средне</translation>
     </message>
     <message>
         <source>Slow</source>
@@ -266,7 +266,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Просмотр</translation>
+        <translation>Предпросмотр</translation>
     </message>
     <message>
         <source>Color Mode</source>
@@ -468,7 +468,7 @@
     </message>
     <message>
         <source>Location_Warning_Title</source>
-        <translation>Конфиденциальность</translation>
+        <translation>Политика конфиденциальности</translation>
     </message>
     <message>
         <source>Location_Warning_Content</source>

@@ -47,7 +47,7 @@
     </message>
     <message>
         <source>Load</source>
-        <translation>ภาระ</translation>
+        <translation>โหลด</translation>
     </message>
     <message>
         <source>Low</source>
@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Pulse</source>
-        <translation>ชีพจร</translation>
+        <translation>หายใจ</translation>
     </message>
     <message>
         <source>Wave</source>
@@ -250,7 +250,7 @@
     </message>
     <message>
         <source>Apply</source>
-        <translation>ใช้</translation>
+        <translation>นำไปใช้</translation>
     </message>
     <message>
         <source>Default</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Light Speed</source>
-        <translation>ความเร็วไฟ</translation>
+        <translation>ความเร็วเอฟเฟกต์</translation>
     </message>
     <message>
         <source>ON</source>

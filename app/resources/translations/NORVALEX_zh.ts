@@ -234,15 +234,15 @@
     </message>
     <message>
         <source>Fast</source>
-        <translation>快</translation>
+        <translation>快速</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation>一般</translation>
+        <translation>中速</translation>
     </message>
     <message>
         <source>Slow</source>
-        <translation>慢</translation>
+        <translation>慢速</translation>
     </message>
     <message>
         <source>Profile</source>
