@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # CPU and memory of the control service while its output "openrgb" streams the animated
-# default lighting (Wave) at 30 frames a second to N DRAM controllers. A second service with
+# default lighting (Wave) at 30 frames a second, rendered for the output alone, to N DRAM controllers. A second service with
 # --sdk-server plays the OpenRGB server. Figures are whole-process, from /proc.
 #   bash tests/openrgb/bench_openrgb_output.sh BUILD_DIR [SECONDS] [COUNTS...]
 set -euo pipefail
@@ -45,6 +45,10 @@ for count in ${counts[*]}; do
   sleep 1
   output=$(start "output$count" --output=openrgb:127.0.0.1:$port --modules=0)
   sleep 3 # connect, list, settle
+  if ! kill -0 "$server" 2>/dev/null || ! kill -0 "$output" 2>/dev/null; then
+    echo "a service did not start or ended (port $port taken?)" >&2
+    exit 1
+  fi
   o0=$(ticks "$output"); s0=$(ticks "$server")
   sleep "$seconds"
   o1=$(ticks "$output"); s1=$(ticks "$server")
