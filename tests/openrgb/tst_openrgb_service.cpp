@@ -271,7 +271,9 @@ void TestOpenRgbService::serviceDrivesService()
     QVERIFY(state.open(QIODevice::WriteOnly | QIODevice::Truncate));
     state.write(json);
     state.close();
-    QVERIFY(b.start());
+    // B is itself an SDK server too, for the tool further down.
+    const quint16 portB = freePort();
+    QVERIFY(b.start({sdkArgument(portB)}));
 
     // B reports A's modules to its panel.
     RawClient panel;
@@ -296,6 +298,13 @@ void TestOpenRgbService::serviceDrivesService()
     // B renders for its output alone (its panel wants no preview): A's module shows B's
     // picture, not the black that B's output starts from.
     QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && anyLit(seen.colors), 10000);
+
+    // A tool driving B's second module directly reaches A's LEDs through B's output.
+    SdkProbe tool;
+    QVERIFY(tool.connectTo(portB));
+    const std::vector<orgb::Color> colors{0x102030, 0x405060, 0x708090, 0xA0B0C0, 0xD0E0F0};
+    tool.send(1, orgb::UpdateLeds, orgb::encodeLedUpdate(colors));
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 1, &seen) && seen.colors == colors, 10000);
 
     // A's server going away leaves B running, still reporting the modules, but with a time
     // stamp that no longer advances, so the panel sees the data go stale.
