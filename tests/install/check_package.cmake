@@ -21,6 +21,8 @@ foreach(entry IN ITEMS
     "/usr/share/metainfo/${APP_ID}.metainfo.xml"
     "/usr/share/icons/hicolor/scalable/apps/${APP_ID}.svg"
     "/usr/lib/systemd/user/norvalex-control.service"
+    "/usr/lib/systemd/system/norvalex-dmi-cache.service"
+    "/norvalex/norvalex-dmi-cache"
     "/usr/share/man/man1/norvalexctl.1.gz"
     "/usr/share/doc/norvalex-rgb/copyright"
     "/usr/share/doc/norvalex-rgb/changelog.Debian.gz")
