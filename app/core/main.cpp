@@ -48,6 +48,9 @@ int main(int argc, char* argv[])
         return 0;
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    // Every widget paints with the raster engine; without this the X11 layer loads the whole
+    // OpenGL stack for the first window (about 50 MB) although nothing draws with it.
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, true);
     QApplication app(argc, argv);
 
     bool alreadyRunning = false;
