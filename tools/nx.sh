@@ -15,7 +15,7 @@ packages=(
   libbenchmark-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix)
+test_packages=(g++-mingw-w64-x86-64-posix xvfb xauth xdotool imagemagick x11-utils)
 
 install_missing() {
   local missing=()
