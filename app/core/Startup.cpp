@@ -1,5 +1,6 @@
 #include "Startup.h"
 
+#include "DataDirectory.h"
 #include "Platform.h"
 
 #include <QDebug>
@@ -12,9 +13,7 @@ namespace Startup {
 
 QString dataDirectory()
 {
-    const QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Qx"),
-                             QStringLiteral("application"));
-    return QFileInfo(settings.fileName()).absolutePath() + QStringLiteral("/NORVALEXRGB");
+    return DataDirectory::path();
 }
 
 bool isDebugMode()

@@ -5,8 +5,7 @@
 // Start-up helpers shared by the entry point and the controller.
 namespace Startup {
 
-// The program's data directory: the directory of the user-scope INI settings file of
-// organisation "Qx", application "application", plus "/NORVALEXRGB".
+// The program's data directory (DataDirectory::path()).
 QString dataDirectory();
 // Reads "DebugMode/isDebugMode" from "ModuleDevice.ini" in the data directory.
 bool isDebugMode();

@@ -1,5 +1,6 @@
 // Entry point of the panel: one instance per user, then the controller.
 #include "AppGlobals.h"
+#include "PanelMessageBox.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
 #include "Startup.h"
@@ -52,6 +53,7 @@ int main(int argc, char* argv[])
     // OpenGL stack for the first window (about 50 MB) although nothing draws with it.
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, true);
     QApplication app(argc, argv);
+    PanelMessageBox::install();
 
     bool alreadyRunning = false;
     Platform::MutexHandle instance = Platform::createMutex(L"NORVALEX RGB.exe", &alreadyRunning);

@@ -9,25 +9,26 @@
 #include <QString>
 #include <QWidget>
 
+#include <memory>
+
+class LightingDeck;
 class Memory_RGB_View;
 class Palette_draw_rect;
 class QButtonGroup;
-class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPropertyAnimation;
 class QPushButton;
-class QSlider;
-class RGB_Palette;
-class SwitchButton;
+class SlotLayout;
+class StripSelection;
 class Widget_Light_Mode_View;
-class Widget_Preview;
 
 // The lighting page: one LED strip per memory slot, the light mode, colour mode, speed,
 // brightness and colour controls, profiles and the slot-order editor. Every decision leaves the
 // page as a signal for the controller; the controller pushes the library's state back in through
-// setLighting, setRGB and the slot-layout setters.
+// setLighting, setRGB and the slot-layout setters. The page owns its state and wires its
+// helpers: LightingDeck builds the control deck (with ColorEntry for the colour channels),
+// SlotLayout arranges the slots and runs Edit mode, StripSelection selects LEDs.
 class Lighting_View : public QWidget
 {
     Q_OBJECT
@@ -104,19 +105,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    // Construction, one group of widgets each.
     void buildLightModeMap();
-    void createModeControls(QWidget* deck);
-    void createColorControls(QWidget* deck);
-    void createSwitchAndActions(QWidget* deck);
-    void createStripArea();
-    void createStrips();
-    void createRowButtons();
     void createProfileButtons();
-    void createEditButtons();
     void connectControls();
     void applyLanguageFonts();
-    void showColorSwatch();
 
     // Shared steps.
     bool isEditMode() const;
@@ -125,32 +117,15 @@ private:
     int colorComboIndexFor(int colorMode);
     int colorModeOfComboText();
     float moduleBrightness(int slot) const;
-    void setBrightnessSlider(float bright);
     void applyMbSyncRule(int lightMode);
-    void showSwitchState(bool on);
     void showSelectedControls();
     void showModuleColor(int slot);
-    void updateRowButtons();
-    void rebuildSelectArea();
-    void placeRowButtons();
-    void placeMarkers();
-    void relayoutStrips();
-    void readdStrip(int slot, int column);
-    void setEditControlsEnabled(bool enabled);
-    void leaveEditMode();
     void finishEditMode();
-    void sendColorEntry();
-    void commitLineEdit(QLineEdit* lineEdit, QSlider* slider);
-    QRect stripRect(int slot) const;
-    bool stripContains(int slot, const QPoint& pos) const;
-    QPoint ledCorner(int slot, int led) const;
+    void commitLineEdit(int channel);
 
-    // Mouse handling.
-    void pressInEditMode(const QPoint& pos);
+    // Slot dragging in Edit mode.
     void pickUpStrip(int slot, const QPoint& pos);
     void dropStrip(const QPoint& pos);
-    void swapStrips(int dragged, int target);
-    void selectLedsInBand(const QPoint& releasePos);
 
     // Per-module lighting state, by slot.
     MemoryModuleData memoryData[SlotCount];
@@ -162,55 +137,29 @@ private:
     QMap<QString, int> colorModeStandMap;
     QMap<QString, int> colorModeMap;
 
-    // Slot layout.
-    int slotNumber = 0;
-    int availableSlotNumber = 0;
-    int maxLEDNum = 0;
-    int savedOrder[SlotCount] = {0, 1, 2, 3, 4, 5, 6, 7};
-
-    // Mode and colour controls.
-    QWidget* widget_Lighting_Control = nullptr;
-    QPushButton* btn_LightMode = nullptr;
-    QLabel* label_LightModeArrow = nullptr;
+    // The control deck and the light-mode list below its mode button.
+    std::unique_ptr<LightingDeck> deck;
     Widget_Light_Mode_View* widget_Light_Mode_View = nullptr;
-    QLabel* label_MB_Sync = nullptr;
-    QLabel* label_colorMode = nullptr;
-    QComboBox* comboBox_ColorMode = nullptr;
-    QLabel* line_ColorMode = nullptr;
-    QLabel* label_ligheSpeed = nullptr;
-    QComboBox* comboBox_LightSpeed = nullptr;
-    QLabel* line_LightSpeed = nullptr;
-    QLabel* label_Brightness = nullptr;
-    QSlider* slider_Light = nullptr;
-    QLabel* label_R_Value = nullptr;
-    QLabel* label_G_Value = nullptr;
-    QLabel* label_B_Value = nullptr;
-    QSlider* slider_R_Value = nullptr;
-    QSlider* slider_G_Value = nullptr;
-    QSlider* slider_B_Value = nullptr;
     QLineEdit* lineEdit_R_Value = nullptr;
     QLineEdit* lineEdit_G_Value = nullptr;
     QLineEdit* lineEdit_B_Value = nullptr;
-    QLabel* label_ColorSwatch = nullptr;
-    RGB_Palette* rgb_Palette = nullptr;
-    SwitchButton* switchButton = nullptr;
-    QLabel* label_TurnLight = nullptr;
-    QLabel* label_Switch = nullptr;
-    QPushButton* btn_Apply = nullptr;
-    QPushButton* btn_Default = nullptr;
 
-    // Strips, markers, rows, preview and profiles.
+    // Slot layout and Edit mode.
+    std::unique_ptr<SlotLayout> slotLayout;
     QWidget* widget_memory_Control = nullptr;
-    QGridLayout* gridLayout_Memory = nullptr;
     Memory_RGB_View* memoryRGBView[SlotCount] = {};
-    QPushButton* btn_Slots[SlotCount] = {};
     QPushButton* btn_SelectHorizontal[LedRows] = {};
-    QLabel* label_Preview = nullptr;
-    Widget_Preview* widget_Preview = nullptr;
+    QLabel* slotLabel[SlotCount] = {};
+    QPropertyAnimation* slotAnimation[SlotCount] = {};
+    int maxLEDNum = 0;
+    int savedOrder[SlotCount] = {0, 1, 2, 3, 4, 5, 6, 7};
+
+    // Profiles.
     QButtonGroup* buttonGroup_Profile = nullptr;
     QPushButton* btn_Profile[ProfileCount] = {};
 
-    // Area selection and slot dragging.
+    // LED selection: the band, the row buttons and the outline of the selected strips.
+    std::unique_ptr<StripSelection> selection;
     Palette_draw_rect* palette_draw_rect = nullptr;
     int allselect_start_x = 0;
     int allselect_start_y = 0;
@@ -218,9 +167,9 @@ private:
     int allselect_end_y = 0;
     bool allselectDragging = false;
     QPolygon selectAreaPointList;
+
+    // The strip picked up in Edit mode.
     int dragSlotIndex = -1;
     QPixmap dragPixmap;
     QLabel* label_DragSlot = nullptr;
-    QPropertyAnimation* slotAnimation[SlotCount] = {};
-    QLabel* slotLabel[SlotCount] = {};
 };

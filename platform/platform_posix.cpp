@@ -1,18 +1,18 @@
 // POSIX implementation of Platform. A named mutex is a lock file in the user's runtime
 // directory; a window reachable by title is a local socket there that carries
 // (message, wParam, lParam) and answers once the message is handled; the elevated launch is a
-// plain detached start of the control service from the given directory.
+// plain detached start of the control service from the given directory. Only QtCore and
+// QtNetwork: a message box without a hook is a line on standard error, and the panel installs
+// the hook that shows a real one.
 #include "Platform.h"
 
 #include <QByteArray>
 #include <QDataStream>
 #include <QDir>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
-#include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -241,18 +241,8 @@ void messageBox(const std::wstring& text, const std::wstring& caption, MessageIc
         messageBoxHook(text, caption, icon);
         return;
     }
-    const QString body = QString::fromStdWString(text);
-    const QString title = QString::fromStdWString(caption);
-    const QString platform = QGuiApplication::platformName();
-    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()) ||
-        platform == QLatin1String("offscreen") || platform == QLatin1String("minimal")) {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(title), qPrintable(body));
-        return;
-    }
-    QMessageBox box(icon == MessageIcon::Exclamation ? QMessageBox::Warning
-                                                     : QMessageBox::Information,
-                    title, body, QMessageBox::Ok);
-    box.exec();
+    std::fprintf(stderr, "%s: %s\n", qPrintable(QString::fromStdWString(caption)),
+                 qPrintable(QString::fromStdWString(text)));
 }
 
 void setMessageBoxHook(MessageBoxHook hook)

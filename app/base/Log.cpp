@@ -1,6 +1,6 @@
 #include "Log.h"
 
-#include "Startup.h"
+#include "DataDirectory.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -38,7 +38,7 @@ QMutex& logMutex()
 
 QString filePath()
 {
-    return Startup::dataDirectory() + QStringLiteral("/NORVALEXRGB_UI_Log.txt");
+    return DataDirectory::path() + QStringLiteral("/NORVALEXRGB_UI_Log.txt");
 }
 
 QString formatLine(QtMsgType type, const QMessageLogContext& context, const QString& message)

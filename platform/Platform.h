@@ -4,7 +4,8 @@
 // another process's window by title and sending it a message, launching the control service,
 // message boxes. Wide strings in, plain values out, no Qt types: the Win32 implementation
 // (platform_win.cpp) is compiled stand-alone; the POSIX one (platform_posix.cpp) uses
-// QLockFile, QLocalServer/QLocalSocket and QProcess behind the same functions.
+// QLockFile, QLocalServer/QLocalSocket and QProcess behind the same functions and needs only
+// QtCore and QtNetwork, so that the headless control service can use it too.
 
 #include <cstdint>
 #include <string>
@@ -56,7 +57,9 @@ std::wstring controlExecutableName();
 // process handle is waited on for at most 3000 ms and closed. Returns success.
 bool launchElevated(const std::wstring& file, const std::wstring& directory);
 
-// MessageBoxW with no owner. Tests replace it with a hook so that nothing modal blocks them.
+// MessageBoxW with no owner. The hook, when set, shows the box instead: the panel installs one
+// on POSIX, where the library itself only writes the text to standard error; tests install
+// their own so that nothing modal blocks them.
 using MessageBoxHook = void (*)(const std::wstring& text, const std::wstring& caption,
                                 MessageIcon icon);
 void messageBox(const std::wstring& text, const std::wstring& caption, MessageIcon icon);
