@@ -129,12 +129,21 @@ uint32_t applyRequest(ControlState& state, const Request& request)
     case MessageType::SetProfile:
         state.profile = request.profile;
         return ChangeProfile;
-    case MessageType::SetNotification:
+    case MessageType::SetNotification: {
+        // The item number only says what the sender touched: a record that differs in nothing
+        // else changes no rule. The panel re-sends its rules whenever it is shown them, so
+        // calling that a change would echo for ever.
+        NotiEventData previous = state.noti;
+        previous.changedItem = request.noti.changedItem;
+        const bool same = std::memcmp(&previous, &request.noti, sizeof previous) == 0;
         state.noti = request.noti;
-        return ChangeNotification;
-    case MessageType::SetSetting:
+        return same ? 0u : uint32_t(ChangeNotification);
+    }
+    case MessageType::SetSetting: {
+        const bool same = std::memcmp(&state.setting, &request.setting, sizeof state.setting) == 0;
         state.setting = request.setting;
-        return ChangeSetting;
+        return same ? 0u : uint32_t(ChangeSetting);
+    }
     default:
         return 0;
     }
