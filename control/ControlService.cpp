@@ -1,16 +1,41 @@
 #include "ControlService.h"
 
+#include "AutostartEntry.h"
+#include "DesktopNotifier.h"
+#include "SimulatedModules.h"
+#include "SleepWatcher.h"
+#include "SystemModules.h"
+
 #include <QLoggingCategory>
+#include <QRandomGenerator>
+#include <QTime>
+
+#include <algorithm>
 
 Q_LOGGING_CATEGORY(lcService, "norvalex.control")
 
 ControlService::ControlService(const ServiceOptions& options, const QString& statePath,
                                const QString& socketPath, QObject* parent)
+    : ControlService(options, statePath, socketPath, QDBusConnection::sessionBus(),
+                     QDBusConnection::systemBus(), parent)
+{
+}
+
+ControlService::ControlService(const ServiceOptions& options, const QString& statePath,
+                               const QString& socketPath, const QDBusConnection& sessionBus,
+                               const QDBusConnection& systemBus, QObject* parent)
     : QObject(parent), options_(options), socketPath_(socketPath), stateFile_(statePath),
       server_([this](ClientConnection& client, const nxproto::Request& request) {
           handleRequest(client, request);
-      })
+      }),
+      notifier_(new DesktopNotifier(sessionBus, systemBus, this)),
+      rules_(new RuleActions(notifier_, this)), sleepWatcher_(new SleepWatcher(systemBus, this))
 {
+    connect(sleepWatcher_, &SleepWatcher::resumed, this, [this] {
+        qCInfo(lcService) << "resumed from suspend: re-applying the lighting";
+        reapplyLighting();
+    });
+
     // Changes made in one pass of the event loop go out as one push.
     broadcastTimer_.setSingleShot(true);
     broadcastTimer_.setInterval(0);
@@ -21,6 +46,7 @@ ControlService::ControlService(const ServiceOptions& options, const QString& sta
     saveTimer_.setInterval(kSaveDelayMs);
     connect(&saveTimer_, &QTimer::timeout, this, &ControlService::saveNow);
 
+    seed_ = QRandomGenerator::global()->generate64();
     frameTimer_.setTimerType(Qt::PreciseTimer);
     frameTimer_.setInterval(kFrameIntervalMs);
     connect(&frameTimer_, &QTimer::timeout, this, &ControlService::renderFrame);
@@ -44,22 +70,41 @@ bool ControlService::start(QString* error)
     if (loaded != StateFile::LoadResult::Loaded)
         saveNow();
 
-    monitor_ = std::make_unique<HardwareMonitor>(simulation_);
+    monitor_ = std::make_unique<HardwareMonitor>(makeModuleSource(), options_.root);
     connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::broadcastHardware);
-    qCInfo(lcService) << "simulating" << simulation_.modules << "modules with" << simulation_.leds
-                      << "LEDs";
+    connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::checkRules);
+    // Temperatures and the rules feed the picture.
+    connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::updateRendering);
+    qCInfo(lcService).noquote() << "modules:" << monitor_->source().description();
+    if (!notifier_->hasSessionBus())
+        qCInfo(lcService) << "no session bus: temperature warnings go to the log only";
+    if (!sleepWatcher_->isWatching())
+        qCInfo(lcService) << "logind not reachable: no re-apply after suspend";
+    syncAutostart();
 
     if (!server_.listen(socketPath_, error))
         return false;
     monitor_->start();
     clock_.start();
-    frameTimer_.start();
+    updateRendering();
     return true;
+}
+
+std::unique_ptr<ModuleSource> ControlService::makeModuleSource() const
+{
+    if (options_.moduleMode == ServiceOptions::ModuleMode::Auto) {
+        MemoryProbe probe(options_.root);
+        if (probe.probe())
+            return std::make_unique<SystemModules>(std::move(probe));
+        qCInfo(lcService) << "no memory modules found in SMBIOS; falling back to the simulation";
+    }
+    return std::make_unique<SimulatedModules>(simulation_);
 }
 
 void ControlService::stop()
 {
     frameTimer_.stop();
+    music_.stop();
     broadcastTimer_.stop();
     if (monitor_)
         monitor_->disconnect(this);
@@ -81,6 +126,10 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
         return;
     case nxproto::MessageType::SetPreview:
         client.setWantsPreview(request.preview);
+        // A new subscriber gets the current picture at once, even a static one.
+        if (request.preview)
+            haveFrame_ = false;
+        updateRendering();
         return;
     default:
         break;
@@ -96,6 +145,8 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
     }
     const uint32_t changes = nxproto::applyRequest(state_, request);
     pendingChanges_ |= changes;
+    if (changes & nxproto::ChangeSetting)
+        syncAutostart();
     client.setNeedsAck(true);
     scheduleBroadcast();
     scheduleSave();
@@ -123,6 +174,8 @@ void ControlService::broadcastState()
     message.changes = pendingChanges_;
     message.state = state_;
     pendingChanges_ = 0;
+    if (message.changes != 0)
+        updateRendering();
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
         // A change goes to everyone; a bare acknowledgement only to whom it is owed.
@@ -142,12 +195,87 @@ void ControlService::broadcastHardware()
         client->send(frame);
 }
 
+int ControlService::addFrameSink(FrameSink sink)
+{
+    const int id = nextSinkId_++;
+    sinks_.emplace(id, std::move(sink));
+    haveFrame_ = false;
+    updateRendering();
+    return id;
+}
+
+void ControlService::removeFrameSink(int id)
+{
+    sinks_.erase(id);
+}
+
+bool ControlService::framesWanted() const
+{
+    if (!sinks_.empty())
+        return true;
+    const auto& clients = server_.clients();
+    return std::any_of(clients.begin(), clients.end(),
+                       [](const ClientConnection* client) { return client->wantsPreview(); });
+}
+
+void ControlService::updateRendering()
+{
+    if (!monitor_ || !framesWanted()) {
+        frameTimer_.stop();
+        music_.stop();
+        return;
+    }
+    // A running frame clock picks the change up at its next tick.
+    if (!frameTimer_.isActive())
+        renderFrame();
+}
+
 void ControlService::renderFrame()
 {
+    if (!framesWanted()) {
+        frameTimer_.stop();
+        music_.stop();
+        return;
+    }
+    nxfx::SceneInput scene;
+    scene.seconds = double(clock_.elapsed()) / 1000.0;
+    scene.seed = seed_;
+    const QTime now = QTime::currentTime();
+    scene.hour = now.hour();
+    scene.minute = now.minute();
+    scene.second = now.second() + now.msec() / 1000.0;
+    if (EffectRenderer::wantsMusic(state_, monitor_->info())) {
+        if (!music_.started())
+            qCInfo(lcService) << "Party: listening for the desktop's music";
+        music_.start();
+        const MusicCapture::Reading music = music_.reading();
+        scene.beat = music.beat;
+        scene.loudness = music.loudness;
+    } else {
+        music_.stop();
+    }
+
     nxproto::PreviewMessage message;
+    const bool animated = EffectRenderer::render(state_, monitor_->info(), scene, message.colors);
+    // The load rule overrides every LED of every module while it holds.
+    if (const std::optional<COLORREF> color = rules_->loadOverride()) {
+        for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
+            const int leds = qBound(0, monitor_->info().modules[slot].ledNum, nxproto::kLedCount);
+            std::fill(message.colors[slot], message.colors[slot] + leds, *color);
+        }
+    }
+    if (!animated)
+        frameTimer_.stop();
+    else if (!frameTimer_.isActive())
+        frameTimer_.start();
+    if (haveFrame_ && std::equal(&message.colors[0][0],
+                                 &message.colors[0][0] + nxproto::kSlotCount * nxproto::kLedCount,
+                                 &lastFrame_.colors[0][0]))
+        return;
     message.frame = ++frameNumber_;
-    EffectRenderer::render(state_, monitor_->info(), double(clock_.elapsed()) / 1000.0,
-                           message.colors);
+    lastFrame_ = message;
+    haveFrame_ = true;
+
     std::vector<uint8_t> frame;
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
@@ -157,6 +285,37 @@ void ControlService::renderFrame()
             frame = nxproto::encodePreview(message);
         client->send(frame);
     }
+    // A sink may remove itself or another while it runs.
+    const auto sinks = sinks_;
+    for (const auto& entry : sinks)
+        entry.second(message);
+}
+
+void ControlService::reapplyLighting()
+{
+    pendingChanges_ |= nxproto::ChangeAll;
+    scheduleBroadcast();
+    // Sinks and subscribers get the picture again even when it has not changed.
+    haveFrame_ = false;
+    updateRendering();
+    emit lightingReapplied();
+}
+
+void ControlService::checkRules()
+{
+    RuleEngine::Readings readings;
+    readings.memoryLoad = monitor_->info().memoryLoad;
+    readings.memoryTemperature = monitor_->memoryTemperature();
+    readings.cpuTemperature = monitor_->cpuTemperature();
+    rules_->check(state_.noti, readings);
+}
+
+void ControlService::syncAutostart()
+{
+    const bool enabled = state_.setting.autoRun;
+    QString error;
+    if (!AutostartEntry::apply(enabled, AutostartEntry::panelExecutable(), &error))
+        qCWarning(lcService).noquote() << "autostart entry not updated:" << error;
 }
 
 void ControlService::scheduleSave()

@@ -4,6 +4,8 @@
 #include "ControlState.h"
 #include "EffectRenderer.h"
 #include "HardwareMonitor.h"
+#include "MusicCapture.h"
+#include "RuleActions.h"
 #include "ServiceOptions.h"
 #include "StateFile.h"
 
@@ -11,11 +13,18 @@
 #include <QObject>
 #include <QTimer>
 
+#include <QDBusConnection>
+
+#include <functional>
+#include <map>
 #include <memory>
 #include <unordered_map>
 
 // The control service: owns the lighting state, applies the clients' requests, pushes every
 // change to all clients, renders the LEDs at the frame rate and keeps the state on disk.
+class DesktopNotifier;
+class SleepWatcher;
+
 class ControlService : public QObject
 {
     Q_OBJECT
@@ -27,6 +36,10 @@ public:
 
     ControlService(const ServiceOptions& options, const QString& statePath,
                    const QString& socketPath, QObject* parent = nullptr);
+    // As above, with the buses for desktop warnings and logind (power-off, resume).
+    ControlService(const ServiceOptions& options, const QString& statePath,
+                   const QString& socketPath, const QDBusConnection& sessionBus,
+                   const QDBusConnection& systemBus, QObject* parent = nullptr);
     ~ControlService() override;
 
     bool start(QString* error);
@@ -36,15 +49,35 @@ public:
     const nxproto::ControlState& state() const { return state_; }
     const SimulationConfig& simulation() const { return simulation_; }
 
+    // Outputs that want every rendered frame (the LED drivers). The service renders only while
+    // a preview subscriber or a sink wants frames, and sends a picture again only when it changed.
+    using FrameSink = std::function<void(const nxproto::PreviewMessage&)>;
+    int addFrameSink(FrameSink sink);
+    void removeFrameSink(int id);
+    // Sends the whole lighting out again (after a resume from suspend, when the modules may
+    // have lost it): every client gets a full state and lightingReapplied() is emitted for the
+    // outputs.
+    void reapplyLighting();
+
+signals:
+    void lightingReapplied();
+
 private:
+    std::unique_ptr<ModuleSource> makeModuleSource() const;
     void handleRequest(ClientConnection& client, const nxproto::Request& request);
     void welcome(ClientConnection* client);
     void scheduleBroadcast();
     void broadcastState();
     void broadcastHardware();
     void renderFrame();
+    // Starts or stops the frame clock after anything that may change the picture or the
+    // demand for it, and renders at once when frames are wanted.
+    void updateRendering();
+    bool framesWanted() const;
     void scheduleSave();
     void saveNow();
+    void checkRules();
+    void syncAutostart();
 
     ServiceOptions options_;
     QString socketPath_;
@@ -54,6 +87,9 @@ private:
     SimulationConfig simulation_;       // in effect, with this run's options
     std::unique_ptr<HardwareMonitor> monitor_;
     ControlServer server_;
+    DesktopNotifier* notifier_ = nullptr;
+    RuleActions* rules_ = nullptr;
+    SleepWatcher* sleepWatcher_ = nullptr;
 
     uint32_t pendingChanges_ = 0;
     // Per identified client, the highest seq applied: a request at or below it is a repeat
@@ -65,4 +101,10 @@ private:
     QTimer frameTimer_;
     QElapsedTimer clock_;
     uint32_t frameNumber_ = 0;
+    uint64_t seed_ = 0;
+    std::map<int, FrameSink> sinks_;
+    int nextSinkId_ = 1;
+    MusicCapture music_; // open only while a Party mode is rendered
+    nxproto::PreviewMessage lastFrame_;
+    bool haveFrame_ = false;
 };

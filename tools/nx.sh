@@ -12,10 +12,11 @@ jobs="${NX_JOBS:-2}"
 packages=(
   cmake make g++ pkg-config
   qtbase5-dev qttools5-dev qttools5-dev-tools
-  libbenchmark-dev
+  libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix xvfb xauth xdotool imagemagick x11-utils)
+test_packages=(g++-mingw-w64-x86-64-posix pulseaudio dbus-daemon
+  xvfb xauth xdotool imagemagick x11-utils)
 
 install_missing() {
   local missing=()

@@ -22,7 +22,6 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPropertyAnimation>
 #include <QPushButton>
 #include <QSlider>
 

@@ -33,8 +33,11 @@ public:
     }
 
     // Starts and waits until its socket accepts connections.
-    bool start(const QStringList& arguments = {})
+    // Simulated modules unless the arguments choose: the tests must not depend on the machine.
+    bool start(QStringList arguments = {})
     {
+        if (arguments.filter(QStringLiteral("--modules")).isEmpty())
+            arguments.prepend(QStringLiteral("--modules=simulated"));
         process_.start(QStringLiteral(NX_CONTROL_EXECUTABLE), arguments);
         QElapsedTimer clock;
         clock.start();
