@@ -58,6 +58,9 @@ int main(int argc, char* argv[])
     }
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    // Every widget paints with the raster engine; without this the X11 layer loads the whole
+    // OpenGL stack for the first window (about 50 MB) although nothing draws with it.
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, true);
     GraphicalSession::beginConnecting();
     QApplication app(argc, argv);
     GraphicalSession::endConnecting();

@@ -136,12 +136,18 @@ uint32_t applyRequest(ControlState& state, const Request& request)
             return 0;
         state.profile = request.profile;
         return ChangeProfile;
-    case MessageType::SetNotification:
-        // Byte-wise, so that a boolean cell's spare bytes count as they are stored.
-        if (std::memcmp(&state.noti, &request.noti, sizeof state.noti) == 0)
+    case MessageType::SetNotification: {
+        // The item number only says what the sender touched: a record that differs in nothing
+        // else changes no rule. The panel re-sends its rules whenever it is shown them, so
+        // calling that a change would echo for ever. Byte-wise, so that a boolean cell's spare
+        // bytes count as they are stored.
+        NotiEventData previous = state.noti;
+        previous.changedItem = request.noti.changedItem;
+        if (std::memcmp(&previous, &request.noti, sizeof previous) == 0)
             return 0;
         state.noti = request.noti;
         return ChangeNotification;
+    }
     case MessageType::SetSetting:
         if (std::memcmp(&state.setting, &request.setting, sizeof state.setting) == 0)
             return 0;

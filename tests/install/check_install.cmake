@@ -25,6 +25,8 @@ set(expected
   ${prefix}/share/metainfo/${APP_ID}.metainfo.xml
   ${prefix}/share/icons/hicolor/scalable/apps/${APP_ID}.svg
   ${prefix}/lib/systemd/user/norvalex-control.service
+  ${private}/norvalex-dmi-cache
+  ${prefix}/lib/systemd/system/norvalex-dmi-cache.service
   ${prefix}/share/man/man1/norvalex-rgb.1.gz
   ${prefix}/share/man/man1/norvalex-control.1.gz
   ${prefix}/share/man/man1/norvalexctl.1.gz
@@ -80,6 +82,10 @@ file(STRINGS ${prefix}/lib/systemd/user/norvalex-control.service exec REGEX "^Ex
 if(NOT exec STREQUAL "ExecStart=${private}/norvalex-control")
   fail("the user unit starts '${exec}', not the installed service")
 endif()
+file(STRINGS ${prefix}/lib/systemd/system/norvalex-dmi-cache.service exec REGEX "^ExecStart=")
+if(NOT exec STREQUAL "ExecStart=${private}/norvalex-dmi-cache")
+  fail("the system unit starts '${exec}', not the installed cache writer")
+endif()
 
 # A short runtime directory: socket paths are limited to 107 bytes.
 execute_process(COMMAND mktemp -d OUTPUT_VARIABLE runtime OUTPUT_STRIP_TRAILING_WHITESPACE
@@ -104,6 +110,8 @@ endif()
 if(SYSTEMD_ANALYZE)
   validate(${CMAKE_COMMAND} -E env XDG_RUNTIME_DIR=${runtime} ${SYSTEMD_ANALYZE} --user --man=no
            verify ${prefix}/lib/systemd/user/norvalex-control.service)
+  validate(${SYSTEMD_ANALYZE} --man=no verify
+           ${prefix}/lib/systemd/system/norvalex-dmi-cache.service)
 endif()
 
 # The installed programs, started through their links, load the library and launch the

@@ -21,6 +21,8 @@ foreach(entry IN ITEMS
     "/usr/share/metainfo/${APP_ID}.metainfo.xml"
     "/usr/share/icons/hicolor/scalable/apps/${APP_ID}.svg"
     "/usr/lib/systemd/user/norvalex-control.service"
+    "/usr/lib/systemd/system/norvalex-dmi-cache.service"
+    "/norvalex/norvalex-dmi-cache"
     "/usr/share/man/man1/norvalexctl.1.gz"
     "/usr/share/doc/norvalex-rgb/copyright"
     "/usr/share/doc/norvalex-rgb/changelog.Debian.gz")
@@ -37,6 +39,20 @@ endif()
 execute_process(COMMAND ${DPKG_DEB} -f ${package} Depends OUTPUT_VARIABLE depends)
 if(NOT depends MATCHES "libqt5core5a" OR NOT depends MATCHES "libc6")
   list(APPEND failures "dependencies not computed from the binaries: ${depends}")
+endif()
+
+# The maintainer scripts enable the DMI cache's unit and check with the shell.
+execute_process(COMMAND ${DPKG_DEB} -e ${package} ${WORK_DIR}/control)
+foreach(script IN ITEMS postinst prerm postrm)
+  execute_process(COMMAND sh -n ${WORK_DIR}/control/${script} RESULT_VARIABLE result
+                  OUTPUT_QUIET ERROR_QUIET)
+  if(NOT result EQUAL 0)
+    list(APPEND failures "the package's ${script} is missing or not valid shell")
+  endif()
+endforeach()
+file(STRINGS ${WORK_DIR}/control/postinst enables REGEX "deb-systemd-helper enable")
+if(NOT enables)
+  list(APPEND failures "postinst does not enable the DMI cache's unit")
 endif()
 
 # Stripped: no debugging sections left in the programs.
