@@ -1,4 +1,5 @@
 // Entry point of the panel: one instance per user, then the controller.
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "PanelMessageBox.h"
 #include "Platform.h"
@@ -51,6 +52,7 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication app(argc, argv);
     PanelMessageBox::install();
+    Accessibility::install();
 
     bool alreadyRunning = false;
     Platform::MutexHandle instance = Platform::createMutex(L"NORVALEX RGB.exe", &alreadyRunning);

@@ -1,5 +1,6 @@
 #include "LightingDeck.h"
 
+#include "Accessibility.h"
 #include "ColorEntry.h"
 #include "LightModeTable.h"
 #include "LightingLook.h"
@@ -80,7 +81,7 @@ void LightingDeck::createModeControls(QWidget* deck)
     btn_LightMode->setGeometry(kLightModeRect);
     // Without focus of its own the button leaves the focus with the open list, so a second click
     // closes the list instead of reopening it.
-    btn_LightMode->setFocusPolicy(Qt::NoFocus);
+    Accessibility::makeTabReachable(btn_LightMode);
     btn_LightMode->setStyleSheet(QString::fromLatin1(kLightModeButtonStyle));
 
     label_LightModeArrow = new QLabel(QStringLiteral("\u25BC"), btn_LightMode);
@@ -182,6 +183,13 @@ void LightingDeck::createSwitchAndActions(QWidget* deck)
     btn_Default = new QPushButton(Lighting_View::tr("Default"), deck);
     btn_Default->setObjectName(QStringLiteral("btn_Default"));
     btn_Default->setGeometry(kDefaultRect);
+
+    // The captions name the controls beside them for assistive technology.
+    label_colorMode->setBuddy(comboBox_ColorMode);
+    label_ligheSpeed->setBuddy(comboBox_LightSpeed);
+    label_Brightness->setBuddy(slider_Light);
+    label_TurnLight->setBuddy(switchButton);
+    btn_LightMode->setAccessibleName(Lighting_View::tr("Light Mode"));
 }
 
 void LightingDeck::retranslate()
@@ -194,6 +202,7 @@ void LightingDeck::retranslate()
     showSwitchLabel(switchButton->isChecked());
     btn_Apply->setText(Lighting_View::tr("Apply"));
     btn_Default->setText(Lighting_View::tr("Default"));
+    btn_LightMode->setAccessibleName(Lighting_View::tr("Light Mode"));
     retranslateCombo(comboBox_ColorMode);
     retranslateCombo(comboBox_LightSpeed);
 }

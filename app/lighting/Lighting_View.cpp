@@ -1,5 +1,6 @@
 #include "Lighting_View.h"
 
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "ColorEntry.h"
 #include "LightModeTable.h"
@@ -120,7 +121,7 @@ void Lighting_View::createProfileButtons()
             new QPushButton(tr("Profile") + QLatin1Char(' ') + QString::number(id + 1), this);
         button->setObjectName(QStringLiteral("btn_Profile%1").arg(id));
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
+        Accessibility::makeTabReachable(button);
         button->setGeometry(
             QRect(QPoint(kProfileX, kProfileTop + id * kProfilePitch), kProfileSize));
         buttonGroup_Profile->addButton(button, id);
@@ -725,6 +726,7 @@ void Lighting_View::updateLanguage_Lighting()
     if (!deck->btn_LightMode->text().isEmpty())
         deck->btn_LightMode->setText(lightModeName(currentLightMode));
     deck->retranslate();
+    deck->colorEntry->nameChannels();
     btn_Edit->setText(tr("Edit"));
     btn_Edit_Cancel->setText(tr("Cancel"));
     btn_Edit_Apply->setText(tr("Apply"));

@@ -1,5 +1,6 @@
 #include "SlotLayout.h"
 
+#include "Accessibility.h"
 #include "LightingLook.h"
 #include "Lighting_View.h"
 #include "Memory_RGB_View.h"
@@ -88,7 +89,7 @@ void SlotLayout::createRowButtons()
         QPushButton* button = new QPushButton(QString(QChar('A' + row)), s.page);
         button->setObjectName(QStringLiteral("btn_SelectHorizontal"));
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
+        Accessibility::makeTabReachable(button);
         button->setStyleSheet(QString::fromLatin1(kRowButtonStyle));
         button->resize(kRowButtonSize, kRowButtonSize);
         button->hide();

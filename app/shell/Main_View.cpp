@@ -1,5 +1,6 @@
 #include "Main_View.h"
 
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "Clean_View.h"
 #include "Information_Slots_View.h"
@@ -89,6 +90,7 @@ QString menuButtonStyle(const QString& name)
 
 Main_View::Main_View(QWidget* parent) : QWidget(parent)
 {
+    Accessibility::install();
     setWindowTitle(QString::fromLatin1(kWindowTitle));
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     resize(kFrameWidth, kFrameHeight);
@@ -149,6 +151,7 @@ QPushButton* Main_View::createMenuButton(const char* name, MenuId id)
     button->setCursor(Qt::PointingHandCursor);
     button->setStyleSheet(menuButtonStyle(objectName));
     buttonGroup_Menu->addButton(button, id);
+    Accessibility::markPageTab(button);
     widget_Menu->layout()->addWidget(button);
     return button;
 }
@@ -185,7 +188,7 @@ void Main_View::createWindowButtons()
     btn_Close->setGeometry(width() - kCloseRightInset, kWindowButtonY, kCloseSize, kCloseSize);
     btn_Close->setStyleSheet(QString::fromLatin1(kCloseStyle));
     btn_Close->setCursor(Qt::PointingHandCursor);
-    btn_Close->setFocusPolicy(Qt::NoFocus);
+    Accessibility::makeTabReachable(btn_Close);
     connect(btn_Close, &QPushButton::released, this, &Main_View::slot_Close);
 
     btn_Min = new QPushButton(this);
@@ -193,8 +196,9 @@ void Main_View::createWindowButtons()
     btn_Min->setGeometry(width() - kMinRightInset, kWindowButtonY, kMinWidth, kMinHeight);
     btn_Min->setStyleSheet(QString::fromLatin1(kMinStyle));
     btn_Min->setCursor(Qt::PointingHandCursor);
-    btn_Min->setFocusPolicy(Qt::NoFocus);
+    Accessibility::makeTabReachable(btn_Min);
     connect(btn_Min, &QPushButton::released, this, &QWidget::showMinimized);
+    applyMenuTexts();
 }
 
 void Main_View::applyMenuTexts()
@@ -203,6 +207,10 @@ void Main_View::applyMenuTexts()
     btn_Lighting->setText(tr("Lighting"));
     btn_Noti->setText(tr("Notification"));
     btn_Setting->setText(tr("Settings"));
+    if (btn_Close) {
+        btn_Close->setAccessibleName(tr("Close"));
+        btn_Min->setAccessibleName(tr("Minimize"));
+    }
 }
 
 void Main_View::placeMenuBar()

@@ -67,10 +67,13 @@ protected:
 
 private:
     void paintLed(int index, COLORREF color);
+    // Names the LED button by its slot, row letter and the colour it shows.
+    void nameLed(int index);
     void drawFrame(QPainter& painter) const;
     void drawConnector(QPainter& painter) const;
 
     bool selected = false;
     bool edited = false;
     QLabel* label_BK = nullptr;
+    COLORREF ledShown[LedCount] = {};
 };
