@@ -184,11 +184,18 @@ void LightingDeck::createSwitchAndActions(QWidget* deck)
     btn_Default->setObjectName(QStringLiteral("btn_Default"));
     btn_Default->setGeometry(kDefaultRect);
 
-    // The captions name the controls beside them for assistive technology.
+    // On Linux a combo box's name is its current item; its caption is given as its label.
     label_colorMode->setBuddy(comboBox_ColorMode);
     label_ligheSpeed->setBuddy(comboBox_LightSpeed);
-    label_Brightness->setBuddy(slider_Light);
-    label_TurnLight->setBuddy(switchButton);
+    nameControls();
+}
+
+void LightingDeck::nameControls()
+{
+    comboBox_ColorMode->setAccessibleName(label_colorMode->text());
+    comboBox_LightSpeed->setAccessibleName(label_ligheSpeed->text());
+    slider_Light->setAccessibleName(label_Brightness->text());
+    switchButton->setAccessibleName(label_TurnLight->text());
     btn_LightMode->setAccessibleName(Lighting_View::tr("Light Mode"));
 }
 
@@ -202,7 +209,7 @@ void LightingDeck::retranslate()
     showSwitchLabel(switchButton->isChecked());
     btn_Apply->setText(Lighting_View::tr("Apply"));
     btn_Default->setText(Lighting_View::tr("Default"));
-    btn_LightMode->setAccessibleName(Lighting_View::tr("Light Mode"));
+    nameControls();
     retranslateCombo(comboBox_ColorMode);
     retranslateCombo(comboBox_LightSpeed);
 }

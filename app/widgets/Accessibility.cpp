@@ -53,7 +53,7 @@ void markPageTab(QAbstractButton* button)
 void makeTabReachable(QWidget* widget)
 {
     // Tab only: a mouse click keeps not taking the focus.
-    widget->setFocusPolicy(Qt::FocusPolicy(widget->focusPolicy() | Qt::TabFocus));
+    widget->setFocusPolicy(Qt::TabFocus);
 }
 
 } // namespace Accessibility

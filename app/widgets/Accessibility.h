@@ -14,7 +14,7 @@ void install();
 // Exposes the button as a page tab of the menu; pressing it clicks the button.
 void markPageTab(QAbstractButton* button);
 
-// Lets Tab reach the widget without changing what a mouse click does.
+// Lets Tab reach a widget that the mouse must not give the focus to.
 void makeTabReachable(QWidget* widget);
 
 } // namespace Accessibility

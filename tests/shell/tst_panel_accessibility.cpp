@@ -1,0 +1,194 @@
+#include "Accessibility.h"
+#include "AppGlobals.h"
+#include "Lighting_View.h"
+#include "Main_View.h"
+#include "Noti_View.h"
+#include "Setting_View.h"
+#include "SwitchButton.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QStandardPaths>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+QAccessibleInterface* accessible(QObject* object)
+{
+    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(object);
+    Q_ASSERT(iface);
+    return iface;
+}
+
+QString nameOf(QObject* object)
+{
+    return accessible(object)->text(QAccessible::Name);
+}
+
+template <typename T> T* child(QWidget* page, const char* name)
+{
+    T* found = page->findChild<T*>(QLatin1String(name));
+    Q_ASSERT(found);
+    return found;
+}
+
+// The widget Tab moves to from `widget`.
+QWidget* nextTabStop(QWidget* widget)
+{
+    for (QWidget* next = widget->nextInFocusChain(); next != widget;
+         next = next->nextInFocusChain()) {
+        if ((next->focusPolicy() & Qt::TabFocus) && next->isEnabled())
+            return next;
+    }
+    return nullptr;
+}
+
+void press(QObject* object)
+{
+    QAccessibleActionInterface* actions = accessible(object)->actionInterface();
+    Q_ASSERT(actions);
+    actions->doAction(actions->actionNames().value(0));
+}
+
+} // namespace
+
+class TestPanelAccessibility : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void init()
+    {
+        extendedFeatures = false;
+        isNewMode = false;
+        programStarted = false;
+        currentLanguage = 0;
+        frame = std::make_unique<Main_View>();
+    }
+    void cleanup() { frame.reset(); }
+
+    // The frame is a window; the menu entries are page tabs whose press shows their page; the
+    // window buttons are named and reachable by Tab.
+    void frameAndMenu()
+    {
+        QCOMPARE(accessible(frame.get())->role(), QAccessible::Window);
+        QPushButton* const entries[] = {frame->btn_Info, frame->btn_Lighting, frame->btn_Noti,
+                                        frame->btn_Setting};
+        for (QPushButton* entry : entries) {
+            QCOMPARE(accessible(entry)->role(), QAccessible::PageTab);
+            QVERIFY(!nameOf(entry).isEmpty());
+            QVERIFY(entry->focusPolicy() & Qt::TabFocus);
+        }
+        QCOMPARE(nameOf(frame->btn_Lighting), QStringLiteral("Lighting"));
+
+        QVERIFY(!frame->lighting_View);
+        press(frame->btn_Lighting);
+        QVERIFY(frame->lighting_View && frame->lighting_View->isVisibleTo(frame.get()));
+        QVERIFY(frame->btn_Lighting->isChecked());
+        QVERIFY(accessible(frame->btn_Lighting)->state().checked);
+        QVERIFY(!accessible(frame->btn_Info)->state().checked);
+
+        press(frame->btn_Setting);
+        QVERIFY(frame->setting_View->isVisibleTo(frame.get()));
+        QVERIFY(!frame->lighting_View->isVisibleTo(frame.get()));
+
+        QCOMPARE(nameOf(frame->btn_Close), QStringLiteral("Close"));
+        QCOMPARE(nameOf(frame->btn_Min), QStringLiteral("Minimize"));
+        QVERIFY(frame->btn_Close->focusPolicy() & Qt::TabFocus);
+        // A mouse click still does not move the focus onto the window buttons.
+        QVERIFY(!(frame->btn_Close->focusPolicy() & Qt::ClickFocus));
+    }
+
+    // Every switch is named by its caption, and the settings' language button by its purpose.
+    void settingsAndNotifications()
+    {
+        frame->slot_show_Setting();
+        Setting_View* settings = frame->setting_View;
+        // Created in the order auto update, auto run, current location.
+        const auto switches = settings->findChildren<SwitchButton*>();
+        QCOMPARE(switches.size(), 3);
+        QCOMPARE(nameOf(switches.at(0)), QStringLiteral("Auto Update"));
+        QVERIFY(nameOf(switches.at(1)).startsWith(QStringLiteral("Run NORVALEX RGB")));
+        QVERIFY(!nameOf(switches.at(2)).isEmpty());
+        auto* language = child<QPushButton>(settings, "btn_Language");
+        QCOMPARE(nameOf(language), QStringLiteral("Language"));
+        QVERIFY(language->focusPolicy() & Qt::TabFocus);
+
+        frame->slot_show_Noti();
+        Noti_View* noti = frame->noti_View;
+        auto* memorySwitch = child<SwitchButton>(noti, "switch_Shutdown_Memory");
+        QCOMPARE(nameOf(memorySwitch), QStringLiteral("Memory, Shutdown PC"));
+        auto* memoryEdit = child<QLineEdit>(noti, "lineEdit_Shutdown_Memory");
+        QCOMPARE(nameOf(memoryEdit), QStringLiteral("Memory, Shutdown PC, threshold"));
+        auto* memoryUnit = child<QPushButton>(noti, "btn_Unit_Memory");
+        QVERIFY(nameOf(memoryUnit).startsWith(QStringLiteral("Memory, Shutdown PC")));
+
+        // Tab goes along the row: switch, threshold, unit, then the next row's switch.
+        QCOMPARE(nextTabStop(memorySwitch), memoryEdit);
+        QCOMPARE(nextTabStop(memoryEdit), memoryUnit);
+        QCOMPARE(nextTabStop(memoryUnit), child<SwitchButton>(noti, "switch_Shutdown_CPU"));
+
+        // Return in a threshold keeps the focus on the page: it moves to the unit.
+        frame->show();
+        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+        memoryEdit->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(memoryEdit->hasFocus());
+        memoryEdit->setText(QStringLiteral("70"));
+        QTest::keyClick(memoryEdit, Qt::Key_Return);
+        QTRY_VERIFY(memoryUnit->hasFocus());
+    }
+
+    // On the lighting page the combos, sliders, edits and the mode button are named by their
+    // purpose, not by their current value.
+    void lightingControls()
+    {
+        frame->slot_show_Lighting();
+        Lighting_View* page = frame->lighting_View;
+        // A combo box is labelled by its caption and shows its item as value.
+        auto* colorMode = child<QComboBox>(page, "comboBox_ColorMode");
+        const auto labels = accessible(colorMode)->relations(QAccessible::Label);
+        QCOMPARE(labels.size(), 1);
+        QCOMPARE(labels.first().first->text(QAccessible::Name), QStringLiteral("Color Mode"));
+        QCOMPARE(accessible(colorMode)->text(QAccessible::Value), colorMode->currentText());
+        QCOMPARE(colorMode->accessibleName(), QStringLiteral("Color Mode"));
+        QCOMPARE(child<QComboBox>(page, "comboBox_LightSpeed")->accessibleName(),
+                 QStringLiteral("Light Speed"));
+        QCOMPARE(nameOf(child<QSlider>(page, "slider_Light")), QStringLiteral("Brightness"));
+        QCOMPARE(nameOf(child<SwitchButton>(page, "switchButton")), QStringLiteral("Light Switch"));
+        auto* mode = child<QPushButton>(page, "btn_LightMode");
+        QCOMPARE(nameOf(mode), QStringLiteral("Light Mode"));
+        QVERIFY(mode->focusPolicy() & Qt::TabFocus);
+        QCOMPARE(nameOf(child<QSlider>(page, "slider_R_Value")), QStringLiteral("Red"));
+        QCOMPARE(nameOf(child<QLineEdit>(page, "lineEdit_B_Value")), QStringLiteral("Blue"));
+        for (int id = 0; id < 5; ++id) {
+            const QByteArray name = "btn_Profile" + QByteArray::number(id);
+            auto* profile = child<QPushButton>(page, name.constData());
+            QVERIFY(profile->focusPolicy() & Qt::TabFocus);
+            QCOMPARE(nameOf(profile), QStringLiteral("Profile %1").arg(id + 1));
+        }
+
+        // Return in a channel field hands the focus to the channel's slider.
+        frame->show();
+        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+        auto* green = child<QLineEdit>(page, "lineEdit_G_Value");
+        green->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(green->hasFocus());
+        green->setText(QStringLiteral("40"));
+        QTest::keyClick(green, Qt::Key_Return);
+        auto* greenSlider = child<QSlider>(page, "slider_G_Value");
+        QTRY_VERIFY(greenSlider->hasFocus());
+        QCOMPARE(greenSlider->value(), 40);
+    }
+
+private:
+    std::unique_ptr<Main_View> frame;
+};
+
+QTEST_MAIN(TestPanelAccessibility)
+#include "tst_panel_accessibility.moc"
