@@ -1,6 +1,7 @@
 #include "Accessibility.h"
 
 #include "AccessibleButton.h"
+#include "AccessibleDisplay.h"
 #include "AccessibleHidden.h"
 #include "AccessibleSwitch.h"
 #include "FocusTracker.h"
@@ -21,6 +22,8 @@ QAccessibleInterface* createInterface(const QString& className, QObject* object)
         return new AccessibleSwitch(widget);
     if (className == QLatin1String("QPushButton"))
         return new AccessibleButton(widget);
+    if (className == QLatin1String("RGB_Palette"))
+        return new AccessibleDisplay(widget, QAccessible::ColorChooser);
     // The focus ring and the controller's window, which never shows, are not for the user.
     if (className == QLatin1String("FocusRing") || className == QLatin1String("QXRGBMemory"))
         return new AccessibleHidden(widget);

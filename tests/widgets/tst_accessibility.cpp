@@ -3,6 +3,7 @@
 #include "FocusRing.h"
 #include "FocusTracker.h"
 #include "Memory_RGB_View.h"
+#include "RGB_Palette.h"
 #include "SwitchButton.h"
 
 #include <QAccessible>
@@ -180,6 +181,57 @@ private slots:
         QCOMPARE(accessible(strip.btn_Led[2])->text(QAccessible::Name),
                  QStringLiteral("Slot 2, LED C, dark grey"));
         QCOMPARE(accessible(strip.btn_Led[0])->role(), QAccessible::CheckBox);
+    }
+
+    // The wheel is a colour chooser whose value is the colour under its keyboard cursor; the
+    // arrows move the cursor, never out of the disc, and Space picks what it names.
+    void colourWheel()
+    {
+        QWidget window;
+        auto* before = new QLineEdit(&window);
+        auto* wheel = new RGB_Palette(&window);
+        wheel->move(0, 30);
+        window.resize(200, 220);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QSignalSpy picked(wheel, &RGB_Palette::pressRGB);
+
+        QAccessibleInterface* iface = accessible(wheel);
+        QCOMPARE(iface->role(), QAccessible::ColorChooser);
+        const QString centre = iface->text(QAccessible::Value);
+        QVERIFY(!centre.isEmpty());
+        auto* mark = wheel->findChild<FocusRing*>();
+        QVERIFY(mark && !mark->isVisible());
+
+        before->setFocus(Qt::OtherFocusReason);
+        QTRY_VERIFY(before->hasFocus());
+        QTest::keyClick(before, Qt::Key_Tab);
+        QTRY_VERIFY(wheel->hasFocus());
+        QVERIFY(mark->isVisible());
+        QVERIFY(mark->geometry().contains(wheel->keyboardCursor()));
+
+        const QPoint start = wheel->keyboardCursor();
+        QTest::keyClick(wheel, Qt::Key_Right);
+        QCOMPARE(wheel->keyboardCursor(), start + QPoint(8, 0));
+        QTest::keyClick(wheel, Qt::Key_Up, Qt::ShiftModifier);
+        QCOMPARE(wheel->keyboardCursor(), start + QPoint(8, -1));
+        for (int i = 0; i < 40; ++i)
+            QTest::keyClick(wheel, Qt::Key_Right);
+        COLORREF expected = 0;
+        QVERIFY(RGB_Palette::pickColour(wheel->keyboardCursor(), wheel->size(), &expected));
+        QVERIFY(wheel->keyboardCursor().x() > start.x() + 60);
+        QVERIFY(iface->text(QAccessible::Value) != centre);
+        QVERIFY(picked.isEmpty());
+
+        QTest::keyClick(wheel, Qt::Key_Space);
+        QCOMPARE(picked.count(), 1);
+        QCOMPARE(picked.last().at(0).value<COLORREF>(), expected);
+        const QColor shown(expected & 0xFF, (expected >> 8) & 0xFF, (expected >> 16) & 0xFF);
+        QVERIFY(iface->text(QAccessible::Value).startsWith(ColorNames::describe(shown)));
+
+        before->setFocus(Qt::OtherFocusReason);
+        QTRY_VERIFY(!wheel->hasFocus());
+        QVERIFY(!mark->isVisible());
     }
 
     // The ring shows around a widget reached by Tab, in the accent colour, and never for
