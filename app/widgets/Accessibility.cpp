@@ -18,6 +18,9 @@ QAccessibleInterface* createInterface(const QString& className, QObject* object)
     if (!object || !object->isWidgetType())
         return nullptr;
     auto* widget = static_cast<QWidget*>(object);
+    const QVariant displayRole = widget->property(AccessibleDisplay::RoleProperty);
+    if (displayRole.isValid())
+        return new AccessibleDisplay(widget, QAccessible::Role(displayRole.toInt()));
     if (className == QLatin1String("SwitchButton"))
         return new AccessibleSwitch(widget);
     if (className == QLatin1String("QPushButton"))

@@ -2,12 +2,14 @@
 
 #include <QAccessibleWidget>
 
-// A custom-painted widget that shows a value: its role is fixed, its value is the widget's
-// "accessibleValue" property (set by the widget whenever what it shows changes).
+// A custom-painted widget that shows a value. Its value is what the widget's invokable
+// accessibleValue() returns, read only when asked (for widgets that repaint often), or else its
+// "accessibleValue" property, which the widget sets whenever what it shows changes.
 class AccessibleDisplay : public QAccessibleWidget
 {
 public:
     static const char* const ValueProperty;
+    static const char* const RoleProperty;
 
     AccessibleDisplay(QWidget* widget, QAccessible::Role role);
 
@@ -15,4 +17,6 @@ public:
 
     // Sets the value of `widget` and tells assistive technology about the change.
     static void setValue(QWidget* widget, const QString& value);
+    // Has the factory expose `widget`, whatever its class, with `role`.
+    static void expose(QWidget* widget, QAccessible::Role role);
 };

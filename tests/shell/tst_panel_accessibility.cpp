@@ -1,5 +1,6 @@
 #include "Accessibility.h"
 #include "AppGlobals.h"
+#include "Information_View.h"
 #include "Lighting_View.h"
 #include "Main_View.h"
 #include "Noti_View.h"
@@ -184,6 +185,28 @@ private slots:
         auto* greenSlider = child<QSlider>(page, "slider_G_Value");
         QTRY_VERIFY(greenSlider->hasFocus());
         QCOMPARE(greenSlider->value(), 40);
+    }
+
+    // The load gauge is a progress bar named "Load" whose value follows the data; unknown load
+    // reads as N/A rather than a made-up figure.
+    void loadGauge()
+    {
+        Information_View* page = frame->information_View;
+        QVERIFY(page);
+        auto* gauge = page->findChild<QWidget*>(QStringLiteral("gauge_MemoryLoad"));
+        QVERIFY(gauge);
+        QAccessibleInterface* iface = accessible(gauge);
+        QCOMPARE(iface->role(), QAccessible::ProgressBar);
+        QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Load"));
+        QVERIFY(gauge->testAttribute(Qt::WA_TransparentForMouseEvents));
+
+        HWData data{};
+        data.memoryLoad = 42.6;
+        page->setHWData(data);
+        QCOMPARE(iface->text(QAccessible::Value), QStringLiteral("43%"));
+        data.memoryLoad = -1;
+        page->setHWData(data);
+        QCOMPARE(iface->text(QAccessible::Value), QStringLiteral("N/A"));
     }
 
 private:

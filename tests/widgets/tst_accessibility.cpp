@@ -5,6 +5,7 @@
 #include "Memory_RGB_View.h"
 #include "RGB_Palette.h"
 #include "SwitchButton.h"
+#include "Widget_Preview.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -232,6 +233,27 @@ private slots:
         before->setFocus(Qt::OtherFocusReason);
         QTRY_VERIFY(!wheel->hasFocus());
         QVERIFY(!mark->isVisible());
+    }
+
+    // The preview says what it shows, bar by bar, read when asked rather than on every frame.
+    void previewValue()
+    {
+        Widget_Preview preview;
+        QAccessibleInterface* iface = accessible(&preview);
+        QCOMPARE(iface->role(), QAccessible::Graphic);
+        QCOMPARE(iface->text(QAccessible::Value), QString());
+
+        const int leds[] = {5, 8};
+        const int order[] = {1, 0};
+        preview.setSlotNum(2);
+        preview.setModuleNum(1);
+        preview.setLEDNum(2, leds);
+        preview.setSlotsOrder(2, order);
+        COLORREF first[8] = {0x0000FF, 0x0000FF, 0xFF0000, 0xFF0000, 0x0000FF, 0, 0, 0};
+        COLORREF second[8] = {};
+        preview.updatePreviewList({first, second});
+        QCOMPARE(iface->text(QAccessible::Value),
+                 QStringLiteral("Slot 2: red, blue, red; Slot 1: empty"));
     }
 
     // The ring shows around a widget reached by Tab, in the accent colour, and never for
