@@ -91,6 +91,7 @@ void SlotLayout::createRowButtons()
         button->setCheckable(true);
         Accessibility::makeTabReachable(button);
         button->setStyleSheet(QString::fromLatin1(kRowButtonStyle));
+        button->setAccessibleName(Lighting_View::tr("LED row %1").arg(QChar('A' + row)));
         button->resize(kRowButtonSize, kRowButtonSize);
         button->hide();
         s.rows[row] = button;

@@ -174,6 +174,12 @@ private slots:
             QCOMPARE(nameOf(profile), QStringLiteral("Profile %1").arg(id + 1));
         }
 
+        const auto rows = page->findChildren<QPushButton*>(QStringLiteral("btn_SelectHorizontal"));
+        QCOMPARE(rows.size(), 8);
+        QCOMPARE(nameOf(rows.first()), QStringLiteral("LED row A"));
+        QCOMPARE(nameOf(rows.last()), QStringLiteral("LED row H"));
+        QVERIFY(rows.first()->focusPolicy() & Qt::TabFocus);
+
         // Return in a channel field hands the focus to the channel's slider.
         frame->show();
         QVERIFY(QTest::qWaitForWindowActive(frame.get()));
