@@ -15,7 +15,7 @@ packages=(
   libbenchmark-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix
+test_packages=(g++-mingw-w64-x86-64-posix xdotool
   xvfb x11-utils dbus-daemon dbus-bin dbus-x11 at-spi2-core python3-pyatspi)
 
 install_missing() {
