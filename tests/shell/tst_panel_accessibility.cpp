@@ -43,7 +43,8 @@ QWidget* nextTabStop(QWidget* widget)
 {
     for (QWidget* next = widget->nextInFocusChain(); next != widget;
          next = next->nextInFocusChain()) {
-        if ((next->focusPolicy() & Qt::TabFocus) && next->isEnabled())
+        if ((next->focusPolicy() & Qt::TabFocus) && next->isEnabled() &&
+            next->isVisibleTo(next->window()))
             return next;
     }
     return nullptr;
