@@ -9,8 +9,10 @@ Q_LOGGING_CATEGORY(lcClient, "norvalex.control.client")
 
 namespace {
 
-// A client that does not read is dropped before its queue grows without bound.
-constexpr qint64 kMaxQueuedBytes = 8 * 1024 * 1024;
+// What a client that does not read may hold up: previews stop first, then the client goes.
+// Kept small, so that the most clients the server takes fit in a few tens of megabytes.
+constexpr qint64 kMaxPreviewBacklogBytes = 32 * 1024;
+constexpr qint64 kMaxQueuedBytes = 256 * 1024;
 // Faults logged per connection; a flood of bad frames is summed up instead.
 constexpr int kMaxLoggedFaults = 20;
 
@@ -34,16 +36,16 @@ ClientConnection::~ClientConnection()
         qCWarning(lcClient) << "client" << id_ << "sent" << loggedFaults_ << "faulty frames in all";
 }
 
-void ClientConnection::send(const std::vector<uint8_t>& frame)
+void ClientConnection::send(const std::vector<uint8_t>& frame, bool droppable)
 {
     if (closing_ || socket_->state() != QLocalSocket::ConnectedState)
         return;
-    if (socket_->bytesToWrite() > kMaxQueuedBytes) {
-        // Closing politely would wait for the queue to drain, which it never does.
+    const qint64 queued = socket_->bytesToWrite();
+    if (droppable && queued > kMaxPreviewBacklogBytes)
+        return;
+    if (queued + qint64(frame.size()) > kMaxQueuedBytes) {
         qCWarning(lcClient) << "client" << id_ << "does not read; dropping it";
-        closing_ = true;
-        socket_->abort();
-        emit closed(this);
+        abort();
         return;
     }
     socket_->write(reinterpret_cast<const char*>(frame.data()), qint64(frame.size()));
@@ -55,6 +57,16 @@ void ClientConnection::close()
         return;
     closing_ = true;
     socket_->disconnectFromServer();
+}
+
+void ClientConnection::abort()
+{
+    if (closing_)
+        return;
+    // Closing politely would wait for the queue to drain, which it may never do.
+    closing_ = true;
+    socket_->abort();
+    emit closed(this);
 }
 
 void ClientConnection::readFrames()

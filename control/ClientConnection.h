@@ -25,9 +25,12 @@ public:
     ~ClientConnection() override;
 
     int id() const { return id_; }
-    // The highest seq taken from this client: what a state sent to it acknowledges.
+    // The highest seq taken from this client.
     uint32_t lastSeq() const { return lastSeq_; }
     void raiseLastSeq(uint32_t seq) { lastSeq_ = seq > lastSeq_ ? seq : lastSeq_; }
+    // The highest seq whose effect is on disk: what a state sent to it acknowledges.
+    uint32_t durableSeq() const { return durableSeq_; }
+    void markDurable() { durableSeq_ = lastSeq_; }
     // The identity announced by Hello, 0 for an anonymous client.
     uint64_t clientId() const { return clientId_; }
     void setClientId(uint64_t id) { clientId_ = id; }
@@ -37,8 +40,12 @@ public:
     bool wantsPreview() const { return wantsPreview_; }
     void setWantsPreview(bool on) { wantsPreview_ = on; }
 
-    void send(const std::vector<uint8_t>& frame);
+    // Queues `frame`. A droppable one (a preview) is skipped while the client lags; a client
+    // whose queue still grows past the limit is dropped.
+    void send(const std::vector<uint8_t>& frame, bool droppable = false);
     void close();
+    // Closes at once, without waiting for the queue.
+    void abort();
 
 signals:
     void closed(ClientConnection* connection);
@@ -53,6 +60,7 @@ private:
     RequestHandler handler_;
     nxproto::FrameDecoder decoder_;
     uint32_t lastSeq_ = 0;
+    uint32_t durableSeq_ = 0;
     uint64_t clientId_ = 0;
     bool needsAck_ = false;
     bool wantsPreview_ = false;

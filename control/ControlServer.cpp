@@ -2,10 +2,11 @@
 
 #include "SocketPath.h"
 
-#include <QDir>
 #include <QLocalSocket>
 #include <QLoggingCategory>
-#include <QStandardPaths>
+#include <QTimer>
+
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <utility>
@@ -23,20 +24,28 @@ ControlServer::~ControlServer()
     close();
 }
 
-QString ControlServer::defaultSocketPath()
+QString ControlServer::defaultSocketPath(QString* problem)
 {
-    QString dir = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (dir.isEmpty())
-        dir = QDir::tempPath();
-    QDir().mkpath(dir);
-    return dir + QLatin1Char('/') + QLatin1String(nxproto::kSocketFileName);
+    std::string why;
+    const std::string path = nxproto::socketPath(&why);
+    if (problem)
+        *problem = QString::fromStdString(why);
+    return QString::fromStdString(path);
 }
 
 bool ControlServer::listen(const QString& path, QString* error)
 {
+    if (path.isEmpty()) {
+        *error = QStringLiteral("no socket path");
+        return false;
+    }
     QLocalServer::removeServer(path);
-    server_.setSocketOptions(QLocalServer::UserAccessOption);
-    if (!server_.listen(path)) {
+    // Created 0600 by bind() itself, so that it is never open to others, not even briefly.
+    server_.setSocketOptions(QLocalServer::NoOptions);
+    const mode_t previous = ::umask(0177);
+    const bool listening = server_.listen(path);
+    ::umask(previous);
+    if (!listening) {
         *error = server_.errorString();
         return false;
     }
@@ -58,15 +67,31 @@ void ControlServer::close()
 void ControlServer::acceptClients()
 {
     while (QLocalSocket* socket = server_.nextPendingConnection()) {
-        if (int(clients_.size()) >= kMaxClients) {
-            qCWarning(lcServer) << "too many clients; refusing one";
+        const char* refusal = nullptr;
+        if (!nxproto::peerIsSameUser(int(socket->socketDescriptor())))
+            refusal = "a peer of another user";
+        else if (int(clients_.size()) >= kMaxClients)
+            refusal = "a client beyond the limit";
+        if (refusal) {
+            // A peer that reconnects at once must not flood the log.
+            if (refusedInARow_++ == 0)
+                qCWarning(lcServer) << "refusing" << refusal;
             socket->abort();
             socket->deleteLater();
             continue;
         }
+        if (refusedInARow_ > 1)
+            qCWarning(lcServer) << "refused" << refusedInARow_ << "connections in a row";
+        refusedInARow_ = 0;
         auto* client = new ClientConnection(socket, nextId_++, handler_, this);
         connect(client, &ClientConnection::closed, this, &ControlServer::forget);
         clients_.push_back(client);
+        QTimer::singleShot(kHelloTimeoutMs, client, [client]() {
+            if (client->clientId() == 0) {
+                qCDebug(lcServer) << "client" << client->id() << "silent; closing it";
+                client->abort();
+            }
+        });
         qCDebug(lcServer) << "client" << client->id() << "connected";
         emit clientConnected(client);
     }

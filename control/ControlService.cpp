@@ -1,26 +1,51 @@
 #include "ControlService.h"
 
+#include "AutostartEntry.h"
+#include "DesktopLanguage.h"
+#include "DesktopNotifier.h"
+#include "SimulatedModules.h"
+#include "SleepWatcher.h"
+#include "SystemModules.h"
+
 #include <QLoggingCategory>
+#include <QRandomGenerator>
+#include <QTime>
+
+#include <algorithm>
 
 Q_LOGGING_CATEGORY(lcService, "norvalex.control")
 
 ControlService::ControlService(const ServiceOptions& options, const QString& statePath,
                                const QString& socketPath, QObject* parent)
+    : ControlService(options, statePath, socketPath, QDBusConnection::sessionBus(),
+                     QDBusConnection::systemBus(), parent)
+{
+}
+
+ControlService::ControlService(const ServiceOptions& options, const QString& statePath,
+                               const QString& socketPath, const QDBusConnection& sessionBus,
+                               const QDBusConnection& systemBus, QObject* parent)
     : QObject(parent), options_(options), socketPath_(socketPath), stateFile_(statePath),
       server_([this](ClientConnection& client, const nxproto::Request& request) {
           handleRequest(client, request);
-      })
+      }),
+      notifier_(new DesktopNotifier(sessionBus, systemBus, this)),
+      rules_(new RuleActions(notifier_, this)), sleepWatcher_(new SleepWatcher(systemBus, this))
 {
+    connect(sleepWatcher_, &SleepWatcher::resumed, this, [this] {
+        qCInfo(lcService) << "resumed from suspend: re-applying the lighting";
+        reapplyLighting();
+    });
+
     // Changes made in one pass of the event loop go out as one push.
     broadcastTimer_.setSingleShot(true);
     broadcastTimer_.setInterval(0);
     connect(&broadcastTimer_, &QTimer::timeout, this, &ControlService::broadcastState);
 
-    // Not restarted by later changes, so a steady stream of changes is still saved.
-    saveTimer_.setSingleShot(true);
-    saveTimer_.setInterval(kSaveDelayMs);
-    connect(&saveTimer_, &QTimer::timeout, this, &ControlService::saveNow);
+    retryTimer_.setSingleShot(true);
+    connect(&retryTimer_, &QTimer::timeout, this, &ControlService::retrySave);
 
+    seed_ = QRandomGenerator::global()->generate64();
     frameTimer_.setTimerType(Qt::PreciseTimer);
     frameTimer_.setInterval(kFrameIntervalMs);
     connect(&frameTimer_, &QTimer::timeout, this, &ControlService::renderFrame);
@@ -41,30 +66,54 @@ bool ControlService::start(QString* error)
                                         ? "state loaded from"
                                         : "starting with defaults; state file")
                                 << stateFile_.path();
-    if (loaded != StateFile::LoadResult::Loaded)
-        saveNow();
+    if (loaded != StateFile::LoadResult::Loaded) {
+        // A first start speaks the desktop's language; the stored choice holds afterwards.
+        state_.setting.languageIndex = DesktopLanguage::systemIndex();
+        dirty_ = true;
+        commit();
+    }
 
-    monitor_ = std::make_unique<HardwareMonitor>(simulation_);
+    monitor_ = std::make_unique<HardwareMonitor>(makeModuleSource(), options_.root);
     connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::broadcastHardware);
-    qCInfo(lcService) << "simulating" << simulation_.modules << "modules with" << simulation_.leds
-                      << "LEDs";
+    connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::checkRules);
+    // Temperatures and the rules feed the picture.
+    connect(monitor_.get(), &HardwareMonitor::updated, this, &ControlService::updateRendering);
+    qCInfo(lcService).noquote() << "modules:" << monitor_->source().description();
+    if (!notifier_->hasSessionBus())
+        qCInfo(lcService) << "no session bus: temperature warnings go to the log only";
+    if (!sleepWatcher_->isWatching())
+        qCInfo(lcService) << "logind not reachable: no re-apply after suspend";
+    syncAutostart();
 
     if (!server_.listen(socketPath_, error))
         return false;
     monitor_->start();
     clock_.start();
-    frameTimer_.start();
+    updateRendering();
     return true;
+}
+
+std::unique_ptr<ModuleSource> ControlService::makeModuleSource() const
+{
+    if (options_.moduleMode == ServiceOptions::ModuleMode::Auto) {
+        MemoryProbe probe(options_.root);
+        if (probe.probe())
+            return std::make_unique<SystemModules>(std::move(probe));
+        qCInfo(lcService) << "no memory modules found in SMBIOS; falling back to the simulation";
+    }
+    return std::make_unique<SimulatedModules>(simulation_);
 }
 
 void ControlService::stop()
 {
     frameTimer_.stop();
+    music_.stop();
     broadcastTimer_.stop();
     if (monitor_)
         monitor_->disconnect(this);
-    if (dirty_ || saveTimer_.isActive())
-        saveNow();
+    retryTimer_.stop();
+    if (dirty_ && !commit())
+        qCCritical(lcService) << "exiting with unsaved changes";
     server_.close();
 }
 
@@ -75,12 +124,19 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
         if (appliedSeqs_.size() >= kMaxKnownClients)
             appliedSeqs_.clear();
         client.setClientId(request.clientId);
-        client.raiseLastSeq(appliedSeqs_[request.clientId]);
-        client.setNeedsAck(true);
-        scheduleBroadcast();
+        // A returning client learns what it need not send again; a new one has its state.
+        if (const uint32_t applied = appliedSeqs_[request.clientId]) {
+            client.raiseLastSeq(applied);
+            client.setNeedsAck(true);
+            scheduleBroadcast();
+        }
         return;
     case nxproto::MessageType::SetPreview:
         client.setWantsPreview(request.preview);
+        // A new subscriber gets the current picture at once, even a static one.
+        if (request.preview)
+            haveFrame_ = false;
+        updateRendering();
         return;
     default:
         break;
@@ -94,17 +150,23 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
         }
         applied = request.seq;
     }
+    // A request that leaves the state as it was is acknowledged, but is no change: no push to
+    // the others, no light-mode event, no save.
     const uint32_t changes = nxproto::applyRequest(state_, request);
-    pendingChanges_ |= changes;
     client.setNeedsAck(true);
     scheduleBroadcast();
-    scheduleSave();
+    if (changes == 0)
+        return;
+    pendingChanges_ |= changes;
+    dirty_ = true;
+    if (changes & nxproto::ChangeSetting)
+        syncAutostart();
 }
 
 void ControlService::welcome(ClientConnection* client)
 {
     nxproto::StateMessage message;
-    message.ackSeq = client->lastSeq();
+    message.ackSeq = client->durableSeq();
     message.changes = nxproto::ChangeAll;
     message.state = state_;
     client->send(nxproto::encodeState(message));
@@ -119,17 +181,26 @@ void ControlService::scheduleBroadcast()
 
 void ControlService::broadcastState()
 {
+    // During a failing episode only the retry timer writes; changes still go out, their
+    // acknowledgements wait.
+    const bool durable = retryTimer_.isActive() ? !dirty_ : commit();
     nxproto::StateMessage message;
     message.changes = pendingChanges_;
     message.state = state_;
     pendingChanges_ = 0;
+    if (message.changes != 0)
+        updateRendering();
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
+        if (durable)
+            client->markDurable();
+        const bool owed = durable && client->needsAck();
         // A change goes to everyone; a bare acknowledgement only to whom it is owed.
-        if (message.changes == 0 && !client->needsAck())
+        if (message.changes == 0 && !owed)
             continue;
-        client->setNeedsAck(false);
-        message.ackSeq = client->lastSeq();
+        if (durable)
+            client->setNeedsAck(false);
+        message.ackSeq = client->durableSeq();
         client->send(nxproto::encodeState(message));
     }
 }
@@ -142,12 +213,87 @@ void ControlService::broadcastHardware()
         client->send(frame);
 }
 
+int ControlService::addFrameSink(FrameSink sink)
+{
+    const int id = nextSinkId_++;
+    sinks_.emplace(id, std::move(sink));
+    haveFrame_ = false;
+    updateRendering();
+    return id;
+}
+
+void ControlService::removeFrameSink(int id)
+{
+    sinks_.erase(id);
+}
+
+bool ControlService::framesWanted() const
+{
+    if (!sinks_.empty())
+        return true;
+    const auto& clients = server_.clients();
+    return std::any_of(clients.begin(), clients.end(),
+                       [](const ClientConnection* client) { return client->wantsPreview(); });
+}
+
+void ControlService::updateRendering()
+{
+    if (!monitor_ || !framesWanted()) {
+        frameTimer_.stop();
+        music_.stop();
+        return;
+    }
+    // A running frame clock picks the change up at its next tick.
+    if (!frameTimer_.isActive())
+        renderFrame();
+}
+
 void ControlService::renderFrame()
 {
+    if (!framesWanted()) {
+        frameTimer_.stop();
+        music_.stop();
+        return;
+    }
+    nxfx::SceneInput scene;
+    scene.seconds = double(clock_.elapsed()) / 1000.0;
+    scene.seed = seed_;
+    const QTime now = QTime::currentTime();
+    scene.hour = now.hour();
+    scene.minute = now.minute();
+    scene.second = now.second() + now.msec() / 1000.0;
+    if (EffectRenderer::wantsMusic(state_, monitor_->info())) {
+        if (!music_.started())
+            qCInfo(lcService) << "Party: listening for the desktop's music";
+        music_.start();
+        const MusicCapture::Reading music = music_.reading();
+        scene.beat = music.beat;
+        scene.loudness = music.loudness;
+    } else {
+        music_.stop();
+    }
+
     nxproto::PreviewMessage message;
+    const bool animated = EffectRenderer::render(state_, monitor_->info(), scene, message.colors);
+    // The load rule overrides every LED of every module while it holds.
+    if (const std::optional<COLORREF> color = rules_->loadOverride()) {
+        for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
+            const int leds = qBound(0, monitor_->info().modules[slot].ledNum, nxproto::kLedCount);
+            std::fill(message.colors[slot], message.colors[slot] + leds, *color);
+        }
+    }
+    if (!animated)
+        frameTimer_.stop();
+    else if (!frameTimer_.isActive())
+        frameTimer_.start();
+    if (haveFrame_ && std::equal(&message.colors[0][0],
+                                 &message.colors[0][0] + nxproto::kSlotCount * nxproto::kLedCount,
+                                 &lastFrame_.colors[0][0]))
+        return;
     message.frame = ++frameNumber_;
-    EffectRenderer::render(state_, monitor_->info(), double(clock_.elapsed()) / 1000.0,
-                           message.colors);
+    lastFrame_ = message;
+    haveFrame_ = true;
+
     std::vector<uint8_t> frame;
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
@@ -155,20 +301,65 @@ void ControlService::renderFrame()
             continue;
         if (frame.empty())
             frame = nxproto::encodePreview(message);
-        client->send(frame);
+        client->send(frame, true);
     }
+    // A sink may remove itself or another while it runs.
+    const auto sinks = sinks_;
+    for (const auto& entry : sinks)
+        entry.second(message);
 }
 
-void ControlService::scheduleSave()
+void ControlService::reapplyLighting()
 {
-    dirty_ = true;
-    if (!saveTimer_.isActive())
-        saveTimer_.start();
+    pendingChanges_ |= nxproto::ChangeAll;
+    scheduleBroadcast();
+    // Sinks and subscribers get the picture again even when it has not changed.
+    haveFrame_ = false;
+    updateRendering();
+    emit lightingReapplied();
 }
 
-void ControlService::saveNow()
+void ControlService::checkRules()
 {
-    saveTimer_.stop();
-    if (stateFile_.save(state_, storedSimulation_))
-        dirty_ = false;
+    RuleEngine::Readings readings;
+    readings.memoryLoad = monitor_->info().memoryLoad;
+    readings.memoryTemperature = monitor_->memoryTemperature();
+    readings.cpuTemperature = monitor_->cpuTemperature();
+    rules_->check(state_.noti, readings);
+}
+
+void ControlService::syncAutostart()
+{
+    const bool enabled = state_.setting.autoRun;
+    QString error;
+    if (!AutostartEntry::apply(enabled, AutostartEntry::panelExecutable(), &error))
+        qCWarning(lcService).noquote() << "autostart entry not updated:" << error;
+}
+
+bool ControlService::commit()
+{
+    if (!dirty_)
+        return true;
+    QString error;
+    if (!stateFile_.save(state_, storedSimulation_, &error)) {
+        if (failedSaves_++ == 0)
+            qCWarning(lcService).noquote()
+                << "cannot save the state to" << stateFile_.path() << "(" + error + ");"
+                << "keeping the changes and retrying";
+        const int delay = std::min(kMaxRetryMs, kFirstRetryMs << std::min(failedSaves_ - 1, 7));
+        retryTimer_.start(delay);
+        return false;
+    }
+    if (failedSaves_ > 0)
+        qCInfo(lcService).noquote()
+            << "state saved again after" << failedSaves_ << "failed attempts";
+    failedSaves_ = 0;
+    dirty_ = false;
+    return true;
+}
+
+void ControlService::retrySave()
+{
+    if (commit())
+        scheduleBroadcast(); // the acknowledgements that waited
 }

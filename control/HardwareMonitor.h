@@ -1,42 +1,44 @@
 #pragma once
 
 #include "HardwareInfo.h"
-#include "SimulationConfig.h"
+#include "ModuleSource.h"
 
 #include <QObject>
-#include <QRandomGenerator>
 #include <QString>
 #include <QTimer>
 
-// The hardware facts the service reports, refreshed every second: simulated modules (as many
-// as configured, with a slowly wandering temperature) and the system's real memory load and
-// use from /proc/meminfo.
+#include <memory>
+#include <optional>
+
+// The hardware facts the service reports, refreshed every second: the modules of its module
+// source, the system's memory load and use from meminfo and the processor temperature, all
+// read below `root` ("" for the real system).
 class HardwareMonitor : public QObject
 {
     Q_OBJECT
 
 public:
-    static constexpr int kMinTemperature = 35;
-    static constexpr int kMaxTemperature = 45;
-
-    explicit HardwareMonitor(const SimulationConfig& config,
-                             QString meminfoPath = QStringLiteral("/proc/meminfo"),
-                             QObject* parent = nullptr);
+    HardwareMonitor(std::unique_ptr<ModuleSource> source, QString root = QString(),
+                    QObject* parent = nullptr);
+    ~HardwareMonitor() override;
 
     const nxproto::HardwareInfo& info() const { return info_; }
-    void start();
-    // One refresh: time stamp, temperatures, memory load.
-    void refresh();
+    const ModuleSource& source() const { return *source_; }
+    std::optional<double> cpuTemperature() const { return cpuTemperature_; }
+    // The hottest present module's temperature from a real source; empty otherwise.
+    std::optional<double> memoryTemperature() const;
 
-    // Memory load in percent and used memory in MB from the text of /proc/meminfo.
-    static bool parseMeminfo(const QByteArray& text, double* load, int* usedMB);
+    void start();
+    // One refresh: time stamp, modules, memory load, processor temperature.
+    void refresh();
 
 signals:
     void updated();
 
 private:
+    std::unique_ptr<ModuleSource> source_;
+    QString root_;
     nxproto::HardwareInfo info_;
-    QString meminfoPath_;
+    std::optional<double> cpuTemperature_;
     QTimer timer_;
-    QRandomGenerator random_;
 };

@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 
 bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool* exitNow)
 {
@@ -11,9 +12,16 @@ bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool*
         QStringLiteral("NORVALEX control service: owns the lighting state of the memory modules."));
     const QCommandLineOption helpOption = parser.addHelpOption();
     const QCommandLineOption versionOption = parser.addVersionOption();
-    const QCommandLineOption modulesOption(QStringLiteral("modules"),
-                                           QStringLiteral("Number of simulated modules, 0 to 8."),
-                                           QStringLiteral("count"));
+    const QCommandLineOption modulesOption(
+        QStringLiteral("modules"),
+        QStringLiteral("Which modules to report: \"auto\" (default) the machine's own as found "
+                       "in SMBIOS, or simulated ones when none are found; \"simulated\" always "
+                       "the simulation; a number 0 to 8: that many simulated modules."),
+        QStringLiteral("auto|simulated|count"));
+    const QCommandLineOption rootOption(
+        QStringLiteral("root"),
+        QStringLiteral("Read /proc, /sys and /run below this folder instead (for tests)."),
+        QStringLiteral("dir"));
     const QCommandLineOption ledsOption(QStringLiteral("leds"),
                                         QStringLiteral("LEDs per module, 5 or 8."),
                                         QStringLiteral("count"));
@@ -22,6 +30,7 @@ bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool*
         QStringLiteral("Model codes, comma-separated, given to the modules in turn."),
         QStringLiteral("codes"));
     parser.addOption(modulesOption);
+    parser.addOption(rootOption);
     parser.addOption(ledsOption);
     parser.addOption(modelOption);
 
@@ -29,7 +38,8 @@ bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool*
         *message = parser.errorText();
         return false;
     }
-    if (parser.isSet(helpOption)) {
+    // addHelpOption() also offers --help-all, which parse() leaves to the caller.
+    if (parser.isSet(helpOption) || parser.isSet(QStringLiteral("help-all"))) {
         *message = parser.helpText();
         *exitNow = true;
         return true;
@@ -45,13 +55,28 @@ bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool*
         return false;
     }
     if (parser.isSet(modulesOption)) {
+        const QString text = parser.value(modulesOption);
         bool ok = false;
-        const int value = parser.value(modulesOption).toInt(&ok);
-        if (!ok || !SimulationConfig::validModules(value)) {
-            *message = QStringLiteral("--modules takes a number from 0 to 8");
+        const int value = text.toInt(&ok);
+        if (text == QLatin1String("auto")) {
+            moduleMode = ModuleMode::Auto;
+        } else if (text == QLatin1String("simulated")) {
+            moduleMode = ModuleMode::Simulated;
+        } else if (ok && SimulationConfig::validModules(value)) {
+            moduleMode = ModuleMode::Simulated;
+            modules = value;
+        } else {
+            *message = QStringLiteral("--modules takes auto, simulated or a number from 0 to 8");
             return false;
         }
-        modules = value;
+    }
+    if (parser.isSet(rootOption)) {
+        root = parser.value(rootOption);
+        if (root.isEmpty() || !QFileInfo(root).isDir()) {
+            *message = QStringLiteral("--root takes an existing folder");
+            return false;
+        }
+        root = QFileInfo(root).absoluteFilePath();
     }
     if (parser.isSet(ledsOption)) {
         bool ok = false;

@@ -19,6 +19,12 @@ public:
     // The stored configuration with this run's overrides applied.
     SimulationConfig apply(SimulationConfig stored) const;
 
+    // auto: the machine's modules when the probe finds them, else simulated ones.
+    enum class ModuleMode { Auto, Simulated };
+    ModuleMode moduleMode = ModuleMode::Auto;
+    // Folder under which /proc, /sys and /run are read ("" for the real system).
+    QString root;
+
     std::optional<int> modules;
     std::optional<int> leds;
     std::optional<std::vector<std::string>> models;

@@ -8,10 +8,14 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLoggingCategory>
-#include <QRegularExpression>
-#include <QSaveFile>
 #include <QStandardPaths>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
 #include <utility>
 
 Q_LOGGING_CATEGORY(lcStateFile, "norvalex.control.state")
@@ -35,23 +39,19 @@ StateFile::LoadResult StateFile::load(nxproto::ControlState* state, SimulationCo
 {
     *state = nxproto::defaultControlState();
     *simulation = SimulationConfig{};
-    removeLeftovers();
-    QFile file(path_);
-    if (!file.exists())
-        return LoadResult::Missing;
-    if (!file.open(QIODevice::ReadOnly)) {
-        qCWarning(lcStateFile) << "cannot read" << path_ << file.errorString();
-        setAside(file.errorString());
-        return LoadResult::SetAside;
-    }
-    if (file.size() > kMaxFileSize) {
-        file.close();
-        setAside(QStringLiteral("file too large"));
+    // What an interrupted save left behind; only the service writes this name.
+    ::unlink(QFile::encodeName(temporaryPath()).constData());
+    QByteArray contents;
+    QString problem;
+    bool missing = false;
+    if (!readContents(&contents, &problem, &missing)) {
+        if (missing)
+            return LoadResult::Missing;
+        setAside(problem);
         return LoadResult::SetAside;
     }
     QJsonParseError parseError{};
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &parseError);
-    file.close();
+    const QJsonDocument document = QJsonDocument::fromJson(contents, &parseError);
     if (parseError.error != QJsonParseError::NoError || !document.isObject()) {
         setAside(parseError.error != QJsonParseError::NoError ? parseError.errorString()
                                                               : QStringLiteral("not an object"));
@@ -65,33 +65,127 @@ StateFile::LoadResult StateFile::load(nxproto::ControlState* state, SimulationCo
     return LoadResult::Loaded;
 }
 
-bool StateFile::save(const nxproto::ControlState& state, const SimulationConfig& simulation)
+bool StateFile::readContents(QByteArray* contents, QString* problem, bool* missing) const
 {
-    QDir().mkpath(QFileInfo(path_).absolutePath());
-    QSaveFile file(path_);
-    if (!file.open(QIODevice::WriteOnly)) {
-        qCWarning(lcStateFile) << "cannot write" << path_ << file.errorString();
+    // Non-blocking, so that a FIFO at the path cannot hold the service up; the type is checked
+    // on the open descriptor, so that it cannot change between the check and the read.
+    const int fd =
+        ::open(QFile::encodeName(path_).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0) {
+        *missing = errno == ENOENT;
+        *problem = QString::fromLocal8Bit(std::strerror(errno));
         return false;
     }
-    file.write(QJsonDocument(StateJson::toJson(state, simulation)).toJson(QJsonDocument::Indented));
-    if (!file.commit()) {
-        qCWarning(lcStateFile) << "cannot replace" << path_ << file.errorString();
+    struct stat info {
+    };
+    bool ok = false;
+    if (::fstat(fd, &info) != 0) {
+        *problem = QString::fromLocal8Bit(std::strerror(errno));
+    } else if (!S_ISREG(info.st_mode)) {
+        *problem = QStringLiteral("not a regular file");
+    } else if (info.st_size > kMaxFileSize) {
+        *problem = QStringLiteral("file too large");
+    } else {
+        // Read one byte past the limit, in case the file grows meanwhile.
+        contents->resize(int(kMaxFileSize) + 1);
+        qint64 total = 0;
+        for (;;) {
+            const ssize_t got =
+                ::read(fd, contents->data() + total, std::size_t(contents->size() - total));
+            if (got < 0 && errno == EINTR)
+                continue;
+            if (got < 0) {
+                *problem = QString::fromLocal8Bit(std::strerror(errno));
+                break;
+            }
+            total += got;
+            if (got == 0 || total == contents->size()) {
+                ok = total <= kMaxFileSize;
+                if (!ok)
+                    *problem = QStringLiteral("file too large");
+                break;
+            }
+        }
+        contents->resize(int(total));
+    }
+    ::close(fd);
+    return ok;
+}
+
+bool StateFile::save(const nxproto::ControlState& state, const SimulationConfig& simulation,
+                     QString* error)
+{
+    const QByteArray bytes =
+        QJsonDocument(StateJson::toJson(state, simulation)).toJson(QJsonDocument::Indented);
+    const QString dir = QFileInfo(path_).absolutePath();
+    const QByteArray target = QFile::encodeName(path_);
+    const QByteArray temporary = QFile::encodeName(temporaryPath());
+    const auto fail = [&](const char* step) {
+        const int code = errno;
+        ::unlink(temporary.constData());
+        if (error)
+            *error = QLatin1String(step) + QStringLiteral(": ") +
+                     QString::fromLocal8Bit(std::strerror(code));
         return false;
+    };
+
+    // The folder holds the user's settings: private, like the file.
+    QDir().mkpath(QFileInfo(dir).absolutePath());
+    const QByteArray dirName = QFile::encodeName(dir);
+    if (::mkdir(dirName.constData(), 0700) != 0 && errno != EEXIST)
+        return fail("cannot create the folder");
+    ::chmod(dirName.constData(), 0700);
+
+    ::unlink(temporary.constData());
+    const int fd =
+        ::open(temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (fd < 0)
+        return fail("cannot create the temporary file");
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const ssize_t n =
+            ::write(fd, bytes.constData() + written, std::size_t(bytes.size() - written));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0) {
+            if (n == 0)
+                errno = EIO;
+            const int code = errno;
+            ::close(fd);
+            errno = code;
+            return fail("cannot write");
+        }
+        written += n;
+    }
+    if (::fsync(fd) != 0) {
+        const int code = errno;
+        ::close(fd);
+        errno = code;
+        return fail("cannot flush");
+    }
+    if (::close(fd) != 0)
+        return fail("cannot close");
+    if (::rename(temporary.constData(), target.constData()) != 0)
+        return fail("cannot replace the file");
+    // The rename itself reaches the disk with the folder.
+    const int dirFd = ::open(dirName.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const bool synced = dirFd >= 0 && ::fsync(dirFd) == 0;
+    const int code = errno;
+    if (dirFd >= 0)
+        ::close(dirFd);
+    if (!synced) {
+        errno = code;
+        return fail("cannot flush the folder");
     }
     return true;
 }
 
-void StateFile::removeLeftovers()
+QString StateFile::temporaryPath() const
 {
-    // QSaveFile writes to "<name>.XXXXXX" beside the file and renames it on commit.
+    // Hidden and with a suffix no editor or tool uses, so that no file of the user's is taken.
     const QFileInfo info(path_);
-    const QRegularExpression pattern(QRegularExpression::anchoredPattern(
-        QRegularExpression::escape(info.fileName()) + QStringLiteral("\\.[A-Za-z0-9]{6}")));
-    const QStringList names = info.dir().entryList(QDir::Files | QDir::Hidden);
-    for (const QString& name : names) {
-        if (pattern.match(name).hasMatch() && info.dir().remove(name))
-            qCInfo(lcStateFile).noquote() << "removed an interrupted save:" << name;
-    }
+    return info.absolutePath() + QStringLiteral("/.") + info.fileName() +
+           QStringLiteral(".norvalex-saving");
 }
 
 void StateFile::setAside(const QString& reason)

@@ -71,10 +71,17 @@ int main(int argc, char* argv[])
         QCoreApplication::quit();
     });
 
+    QString runtimeProblem;
+    const QString socketPath = ControlServer::defaultSocketPath(&runtimeProblem);
+    if (socketPath.isEmpty()) {
+        qCritical("cannot start: no private runtime folder (%s)", qPrintable(runtimeProblem));
+        Platform::closeHandle(mutex);
+        return 1;
+    }
+
     int result = 1;
     {
-        ControlService service(options, StateFile::defaultPath(),
-                               ControlServer::defaultSocketPath());
+        ControlService service(options, StateFile::defaultPath(), socketPath);
         QString error;
         if (service.start(&error)) {
             void* listener = Platform::listenForMessages(kWindowTitle, &onMessage, &app);

@@ -20,9 +20,35 @@ constexpr std::size_t kMaxPending = 512;
 // A service that stops reading loses the connection rather than growing the queue; the
 // pending requests go out again after reconnecting.
 constexpr std::size_t kMaxOutboxBytes = 1024 * 1024;
+// Reconnection delays while no connection delivers state: doubling, capped, each one drawn
+// from its upper half so that many clients do not retry in step.
 constexpr int kFirstRetryMs = 50;
-constexpr int kMaxRetryMs = 500;
+constexpr int kMaxRetryMs = 2000;
 constexpr int kIdlePollMs = 1000;
+
+// True when `later` leaves nothing of `earlier` in effect, so that the earlier one need not be
+// kept once the later one is queued.
+bool supersedes(const nxproto::Request& later, const nxproto::Request& earlier)
+{
+    using nxproto::MessageType;
+    if (later.type != earlier.type)
+        return false;
+    switch (later.type) {
+    case MessageType::SetLighting:
+        return later.profile == earlier.profile && later.slot == earlier.slot;
+    case MessageType::SetColors:
+        return later.profile == earlier.profile && later.slot == earlier.slot &&
+               later.count >= earlier.count;
+    case MessageType::SetSlotOrder:
+        return later.count >= earlier.count;
+    case MessageType::SetProfile:
+    case MessageType::SetNotification:
+    case MessageType::SetSetting:
+        return true;
+    default:
+        return false;
+    }
+}
 
 bool validSlot(int slot)
 {
@@ -129,8 +155,19 @@ void LightingClient::submit(nxproto::Request request)
         return;
     std::lock_guard<std::mutex> lock(mutex_);
     request.seq = nextSeq_++;
+    // An edit is for the profile shown now, even when it reaches the service after a switch.
+    if (request.type == nxproto::MessageType::SetLighting ||
+        request.type == nxproto::MessageType::SetColors)
+        request.profile = state_.profile;
     nxproto::applyRequest(state_, request);
     recordDirty_ = true;
+    // Until the service has it on disk, a request is kept; one that a later request overrides
+    // whole goes, which bounds the queue by the number of things a user can set.
+    pending_.erase(std::remove_if(pending_.begin(), pending_.end(),
+                                  [&](const nxproto::Request& earlier) {
+                                      return supersedes(request, earlier);
+                                  }),
+                   pending_.end());
     pending_.push_back(request);
     if (pending_.size() > kMaxPending)
         pending_.pop_front();
@@ -177,16 +214,23 @@ HWData LightingClient::hardwareRecord()
 
 void LightingClient::run()
 {
+    std::minstd_rand random(static_cast<uint32_t>(clientId_));
     int retryMs = kFirstRetryMs;
+    const auto backOff = [&] {
+        std::uniform_int_distribution<int> delay(retryMs / 2, retryMs);
+        waitForWake(delay(random));
+        retryMs = std::min(retryMs * 2, kMaxRetryMs);
+    };
     while (!stopping_) {
         if (socket_ < 0) {
             if (!connectToService()) {
-                waitForWake(retryMs);
-                retryMs = std::min(retryMs * 2, kMaxRetryMs);
+                backOff();
                 continue;
             }
-            retryMs = kFirstRetryMs;
         }
+        // However a connection ends, the next attempt waits unless it delivered state.
+        if (deliveredState_)
+            retryMs = kFirstRetryMs;
         pollfd fds[2] = {};
         fds[0].fd = socket_;
         fds[0].events = POLLIN;
@@ -209,6 +253,8 @@ void LightingClient::run()
         if (fds[0].revents & (POLLIN | POLLHUP | POLLERR)) {
             if (!readAvailable()) {
                 disconnect();
+                if (!deliveredState_)
+                    backOff();
                 continue;
             }
         }
@@ -221,18 +267,21 @@ bool LightingClient::connectToService()
 {
     const std::string path = nxproto::socketPath();
     sockaddr_un address{};
-    if (path.size() >= sizeof address.sun_path)
+    if (path.empty() || path.size() >= sizeof address.sun_path)
         return false;
     address.sun_family = AF_UNIX;
     std::memcpy(address.sun_path, path.c_str(), path.size() + 1);
     const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     if (fd < 0)
         return false;
-    if (::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
+    // Only a service of this user is trusted with the user's lighting.
+    if (::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+        !nxproto::peerIsSameUser(fd)) {
         close(fd);
         return false;
     }
     decoder_.reset();
+    deliveredState_ = false;
     std::lock_guard<std::mutex> lock(mutex_);
     socket_ = fd;
     outbox_.clear();
@@ -300,6 +349,7 @@ void LightingClient::handleFrame(const nxproto::Frame& frame)
         nxproto::StateMessage message;
         if (!nxproto::decodeState(frame, message, nullptr))
             return;
+        deliveredState_ = true;
         {
             std::lock_guard<std::mutex> lock(mutex_);
             confirmed_ = message.state;

@@ -91,4 +91,5 @@ private:
     int wakeRead_ = -1;
     int wakeWrite_ = -1;
     nxproto::FrameDecoder decoder_; // connection thread only
+    bool deliveredState_ = false;   // connection thread only: by the current connection
 };

@@ -114,7 +114,16 @@ MutexHandle createMutex(const std::wstring& name, bool* alreadyExists)
     auto lock = std::make_unique<QLockFile>(mutexPath(name));
     lock->setStaleLockTime(0);
     bool exists = false;
-    if (lock->tryLock(0))
+    // QLockFile takes over a file naming a dead process, but not one naming none (empty or
+    // garbage, as a crash or a full disk may leave it); its removal is refused while a live
+    // holder has the file locked.
+    qint64 holder = 0;
+    QString host;
+    QString program;
+    if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError &&
+        !lock->getLockInfo(&holder, &host, &program) && lock->removeStaleLockFile())
+        qInfo("took over a lock file that named no process: %s", qPrintable(mutexPath(name)));
+    if (lock->isLocked() || lock->tryLock(0))
         mutex->lock = std::move(lock);
     else
         exists = lock->error() == QLockFile::LockFailedError;

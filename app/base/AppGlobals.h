@@ -17,6 +17,8 @@ extern bool extendedFeatures;
 extern bool isNewMode;
 // Started by the control service with the "open" argument.
 extern bool programStarted;
+// Started with --background: the frame opens minimised.
+extern bool startMinimised;
 // The MB-sync warning flag; nothing raises it yet.
 extern bool mbSyncWarning;
 // Index into the language table (0..9) of the language in use.

@@ -7,6 +7,8 @@
 #include <QMutex>
 #include <QMutexLocker>
 
+Q_LOGGING_CATEGORY(lcPanel, "norvalex.panel", QtInfoMsg)
+
 namespace Log {
 
 namespace {
@@ -41,20 +43,20 @@ QString filePath()
     return DataDirectory::path() + QStringLiteral("/NORVALEXRGB_UI_Log.txt");
 }
 
-QString formatLine(QtMsgType type, const QMessageLogContext& context, const QString& message)
+QString formatLine(QtMsgType type, const QString& message)
 {
-    const QString where = QStringLiteral("File:(%1) Line:(%2)")
-                              .arg(QString::fromUtf8(context.file ? context.file : ""))
-                              .arg(context.line);
+    // Debug builds of Qt programs pass file and line with every message; the log never shows
+    // them.
+    const QString where = QStringLiteral("File:() Line:(0)");
     const QString time =
         QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
     return QStringLiteral("\u3010%1\u3011%2 %3 %4").arg(time, levelWord(type), message, where);
 }
 
-void messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
+void messageHandler(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
     QMutexLocker locker(&logMutex());
-    const QString line = formatLine(type, context, message);
+    const QString line = formatLine(type, message);
     // The directory is not created here: without it the line is lost, silently.
     QFile file(filePath());
     if (file.open(QIODevice::WriteOnly | QIODevice::Append)) {
@@ -67,6 +69,8 @@ void messageHandler(QtMsgType type, const QMessageLogContext& context, const QSt
 
 void install()
 {
+    // Rules from QT_LOGGING_RULES or a logging configuration file still take precedence.
+    QLoggingCategory::setFilterRules(QStringLiteral("norvalex.panel.debug=true"));
     qInstallMessageHandler(messageHandler);
 }
 

@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QDebug>
 #include <QThread>
 #include <QTimer>
 #include <QTranslator>
@@ -43,9 +42,9 @@ QXRGBMemory::QXRGBMemory(const QString& libraryPath, QWidget* parent)
 
     if (Startup::isDebugMode()) {
         Log::install();
-        qDebug() << "Debug模式啟動";
-        qDebug() << "======================START================" << programVersion
-                 << "======================";
+        qCDebug(lcPanel) << "Debug模式啟動";
+        qCDebug(lcPanel) << "======================START================" << programVersion
+                         << "======================";
     }
 
     m_translator = new QTranslator(this);
@@ -61,6 +60,9 @@ QXRGBMemory::QXRGBMemory(const QString& libraryPath, QWidget* parent)
     loadLibrary(libraryPath);
 
     m_mainView = new Main_View();
+    // Minimised before the first show, so that the window manager maps it iconic at once.
+    if (startMinimised)
+        m_mainView->setWindowState(Qt::WindowMinimized);
     m_mainView->show();
     connectFrame();
 
@@ -88,21 +90,23 @@ QXRGBMemory::~QXRGBMemory()
 void QXRGBMemory::loadLibrary(const QString& libraryPath)
 {
     if (!m_library.load(libraryPath)) {
-        qDebug() << "bbbbb" << m_library.errorString();
+        qCDebug(lcPanel) << "bbbbb" << m_library.errorString();
         Platform::messageBox(L"SharedDll Init Failure", L"Error",
                              Platform::MessageIcon::Exclamation);
         return;
     }
-    qDebug() << "aaaaa";
+    qCDebug(lcPanel) << "aaaaa";
     const QStringList missing = m_library.missingFunctions();
     if (!missing.isEmpty())
         qWarning() << "lighting library lacks" << missing;
     m_library.SharedDLL_init();
     m_library.RegisterUIEventLightModeFunc(&QXRGBMemory::onLightModeEvent);
     m_library.RegisterUIPreviewEventFunc(&QXRGBMemory::onPreviewEvent);
-    for (int index = 0; index < NX_MODULE_COUNT; ++index)
-        qDebug() << "GetValueMemorySlotNumber{" << index
-                 << "):" << m_library.GetValueMemorySlotNumber(index);
+    for (int index = 0; index < NX_MODULE_COUNT; ++index) {
+        // The calls are made whether or not the line goes anywhere.
+        const int32_t slotNumber = m_library.GetValueMemorySlotNumber(index);
+        qCDebug(lcPanel) << "GetValueMemorySlotNumber{" << index << "):" << slotNumber;
+    }
 }
 
 void QXRGBMemory::connectFrame()
@@ -177,19 +181,20 @@ void QXRGBMemory::runOnGuiThread(std::atomic<bool>& pending, void (QXRGBMemory::
 
 void QXRGBMemory::onLightModeEvent(int32_t value)
 {
-    qDebug() << "oryControl::my_receive" << value;
+    qCDebug(lcPanel) << "oryControl::my_receive" << value;
     runOnGuiThread(s_refreshPending, &QXRGBMemory::receiveRefreshView);
 }
 
 void QXRGBMemory::onPreviewEvent()
 {
-    qDebug() << "receivePreview_Event" << QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
+    qCDebug(lcPanel) << "receivePreview_Event"
+                     << QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
     runOnGuiThread(s_previewPending, &QXRGBMemory::requestUpdate_SoftwareRGB);
 }
 
 void QXRGBMemory::receiveRefreshView()
 {
-    qDebug() << "QXRGBMemory::receiveRefreshView()";
+    qCDebug(lcPanel) << "QXRGBMemory::receiveRefreshView()";
     if (m_mainView)
         m_mainView->updateViewData();
 }
@@ -198,15 +203,15 @@ void QXRGBMemory::receiveRefreshView()
 
 void QXRGBMemory::closeUI()
 {
-    qDebug() << "closeUI";
+    qCDebug(lcPanel) << "closeUI";
     QCoreApplication::quit();
 }
 
 void QXRGBMemory::requestUpdateData()
 {
     const HWData hw = m_library.GetValueHWData();
-    qDebug() << "QXRGBMemory::requestUpdateData memoryCount = " << hw.memoryCount << hw.updateTime
-             << hw.slotCount;
+    qCDebug(lcPanel) << "QXRGBMemory::requestUpdateData memoryCount = " << hw.memoryCount
+                     << hw.updateTime << hw.slotCount;
 
     if (!m_initDone) {
         if (hw.memoryCount >= 0 && hw.slotCount >= 0) {
@@ -223,7 +228,7 @@ void QXRGBMemory::requestUpdateData()
         changeLanguage(settings.languageIndex);
         emit updateLanguage();
     } else if (hw.memoryCount == 0 || hw.slotCount == 0) {
-        qDebug() << "QXRGBMemory::requestUpdateData count dropped to 0, initDone = false";
+        qCDebug(lcPanel) << "QXRGBMemory::requestUpdateData count dropped to 0, initDone = false";
         m_initDone = false;
     }
 
@@ -244,7 +249,7 @@ void QXRGBMemory::requestUpdateData()
 
 void QXRGBMemory::requestUpdate_SoftwareRGB()
 {
-    qDebug() << "requestUpdate_SoftwareRGB";
+    qCDebug(lcPanel) << "requestUpdate_SoftwareRGB";
     m_softwareRGB.clear();
     for (int slot = 0; slot < NX_MODULE_COUNT; ++slot)
         m_softwareRGB.append(m_library.GetValueSoftwareRGB(slot));
@@ -253,14 +258,14 @@ void QXRGBMemory::requestUpdate_SoftwareRGB()
 
 void QXRGBMemory::finishEffect(MemoryModuleData*)
 {
-    qDebug() << "QXRGBMemory::finishEffect";
+    qCDebug(lcPanel) << "QXRGBMemory::finishEffect";
 }
 
 void QXRGBMemory::changeRGBColor(int slot, COLORREF* rgb, COLORREF singleRGB, float* bright,
                                  float singleBright)
 {
-    qDebug() << "QXRGBMemory::changeColor" << slot << (singleRGB & 0xFF)
-             << ((singleRGB >> 8) & 0xFF) << ((singleRGB >> 16) & 0xFF);
+    qCDebug(lcPanel) << "QXRGBMemory::changeColor" << slot << (singleRGB & 0xFF)
+                     << ((singleRGB >> 8) & 0xFF) << ((singleRGB >> 16) & 0xFF);
     // The library takes the brightness array before the single colour.
     m_library.SetValueRGB(slot, rgb, bright, singleRGB, singleBright, 8);
 }
@@ -268,8 +273,8 @@ void QXRGBMemory::changeRGBColor(int slot, COLORREF* rgb, COLORREF singleRGB, fl
 void QXRGBMemory::changeLightMode(int slot, int lightMode, int colorMode, int lightSpeed,
                                   bool turnOff)
 {
-    qDebug() << "QXRGBMemory::changeLightMode:" << slot << lightMode << colorMode << lightSpeed
-             << turnOff;
+    qCDebug(lcPanel) << "QXRGBMemory::changeLightMode:" << slot << lightMode << colorMode
+                     << lightSpeed << turnOff;
     if (lightMode == 31 && !m_library.GetSettingValue().currentLocation) {
         m_locationPolicy->retranslate();
         m_locationPolicy->show();
@@ -284,7 +289,7 @@ void QXRGBMemory::changeLightMode(int slot, int lightMode, int colorMode, int li
 
 void QXRGBMemory::LocationWarningCheck(bool ok)
 {
-    qDebug() << "QXRGBMemory::LocationWarningCheck" << ok;
+    qCDebug(lcPanel) << "QXRGBMemory::LocationWarningCheck" << ok;
     SettingData settings = m_library.GetSettingValue();
     settings.currentLocation = ok;
     m_library.SetSettingValue(settings);
@@ -292,21 +297,23 @@ void QXRGBMemory::LocationWarningCheck(bool ok)
 
 void QXRGBMemory::changeMemorySlotNumber(int count, int* order)
 {
-    QDebug line = qDebug();
-    line << " QXRGBMemory::changeMemorySlotNumber" << count;
-    for (int i = 0; i < NX_MODULE_COUNT; ++i)
-        line << order[i];
+    if (lcPanel().isDebugEnabled()) {
+        QDebug line = QMessageLogger().debug(lcPanel());
+        line << " QXRGBMemory::changeMemorySlotNumber" << count;
+        for (int i = 0; i < NX_MODULE_COUNT; ++i)
+            line << order[i];
+    }
     m_library.SetSlotNumber(count, order);
 }
 
 void QXRGBMemory::requestSetSlotNum()
 {
-    qDebug() << "QXRGBMemory::requestSetSlotNum";
+    qCDebug(lcPanel) << "QXRGBMemory::requestSetSlotNum";
     int order[NX_MODULE_COUNT] = {0, 1, 2, 3, 4, 5, 6, 7};
     for (int i = 0; i < NX_MODULE_COUNT; ++i) {
         order[i] = m_library.GetValueMemorySlotNumber(i);
-        qDebug() << "GetValueMemorySlotNumber(" << i
-                 << "):" << m_library.GetValueMemorySlotNumber(i);
+        const int32_t again = m_library.GetValueMemorySlotNumber(i);
+        qCDebug(lcPanel) << "GetValueMemorySlotNumber(" << i << "):" << again;
     }
     if (m_mainView && m_mainView->lighting_View)
         m_mainView->lighting_View->setMemorySlotNumber(NX_MODULE_COUNT, order);
@@ -316,7 +323,8 @@ void QXRGBMemory::requestSetLEDNum()
 {
     int leds[NX_MODULE_COUNT] = {};
     for (int i = 0; i < NX_MODULE_COUNT; ++i) {
-        qDebug() << "LEDNUM[" << i << "]:" << m_library.GetValueHWData().memoryData[i].ledNum;
+        const int32_t logged = m_library.GetValueHWData().memoryData[i].ledNum;
+        qCDebug(lcPanel) << "LEDNUM[" << i << "]:" << logged;
         leds[i] = m_library.GetValueHWData().memoryData[i].ledNum;
     }
     emit setMemoryLEDNumber(NX_MODULE_COUNT, leds);
@@ -324,7 +332,7 @@ void QXRGBMemory::requestSetLEDNum()
 
 void QXRGBMemory::requestSetLighting()
 {
-    qDebug() << "QXRGBMemory::requestSetLighting()";
+    qCDebug(lcPanel) << "QXRGBMemory::requestSetLighting()";
     for (int slot = 0; slot < NX_MODULE_COUNT; ++slot) {
         const bool turnOff = m_library.GetValueTurnOff(slot);
         const int lightSpeed = m_library.GetValueLightSpeed(slot);
@@ -336,7 +344,7 @@ void QXRGBMemory::requestSetLighting()
 
 void QXRGBMemory::requestSetRGB()
 {
-    qDebug() << "QXRGBMemory::requestSetRGB";
+    qCDebug(lcPanel) << "QXRGBMemory::requestSetRGB";
     for (int slot = 0; slot < NX_MODULE_COUNT; ++slot) {
         const float singleBright = m_library.GetValueSingleBright(slot);
         float* bright = m_library.GetValueBright(slot);
@@ -348,38 +356,39 @@ void QXRGBMemory::requestSetRGB()
 
 void QXRGBMemory::requestSetProfile()
 {
-    qDebug() << " QXRGBMemory::requestSetProfile" << m_library.GetProfile();
+    const int32_t logged = m_library.GetProfile();
+    qCDebug(lcPanel) << " QXRGBMemory::requestSetProfile" << logged;
     emit setProfile(m_library.GetProfile());
 }
 
 void QXRGBMemory::select_Profile(int profile)
 {
-    qDebug() << "QXRGBMemory::select_Profile = " << profile;
+    qCDebug(lcPanel) << "QXRGBMemory::select_Profile = " << profile;
     m_library.SetProfile(profile);
 }
 
 void QXRGBMemory::requestNotiData()
 {
-    qDebug() << "QXRGBMemory::requestNotiData";
+    qCDebug(lcPanel) << "QXRGBMemory::requestNotiData";
     emit setNotiData(m_library.GetNotiEvent());
 }
 
 void QXRGBMemory::slot_NotiData(NotiEventData data)
 {
-    qDebug() << "QXRGBMemory::slot_NotiData";
+    qCDebug(lcPanel) << "QXRGBMemory::slot_NotiData";
     m_library.SetNotiEvent(data);
 }
 
 void QXRGBMemory::requestSettingData()
 {
-    qDebug() << "QXRGBMemory::requestSettingData()";
+    qCDebug(lcPanel) << "QXRGBMemory::requestSettingData()";
     emit setSettingData(m_library.GetSettingValue());
 }
 
 void QXRGBMemory::changeSettingData(SettingData data)
 {
-    qDebug() << "QXRGBMemory::changeSettingData:" << data.autoRun << data.autoUpdate
-             << data.languageIndex;
+    qCDebug(lcPanel) << "QXRGBMemory::changeSettingData:" << data.autoRun << data.autoUpdate
+                     << data.languageIndex;
     changeLanguage(data.languageIndex);
     m_library.SetSettingValue(data);
     emit updateLanguage();
@@ -387,13 +396,13 @@ void QXRGBMemory::changeSettingData(SettingData data)
 
 void QXRGBMemory::setProgramStart(bool started)
 {
-    qDebug() << "QXRGBMemory::setProgramStart" << started;
+    qCDebug(lcPanel) << "QXRGBMemory::setProgramStart" << started;
     programStarted = started;
 }
 
 void QXRGBMemory::changeLanguage(int index)
 {
-    qDebug() << "QXRGBMemory::changeLanguage" << index;
+    qCDebug(lcPanel) << "QXRGBMemory::changeLanguage" << index;
     const QString file = Languages::fileForIndex(index);
     if (file.isEmpty())
         return;
@@ -417,13 +426,13 @@ void QXRGBMemory::changeLanguage(int index)
 
 void QXRGBMemory::handleNativeMessage(unsigned message, quintptr wParam, qintptr)
 {
-    qDebug() << "QXRGBMemory::nativeEvent";
+    qCDebug(lcPanel) << "QXRGBMemory::nativeEvent";
     switch (message) {
     case Platform::kMessageQuit:
         QCoreApplication::quit();
         break;
     case Platform::kMessageRaise:
-        qDebug() << "receive 8302";
+        qCDebug(lcPanel) << "receive 8302";
         if (m_mainView) {
             m_mainView->show();
             m_mainView->setWindowState(Qt::WindowActive);
@@ -431,7 +440,7 @@ void QXRGBMemory::handleNativeMessage(unsigned message, quintptr wParam, qintptr
         }
         break;
     case Platform::kMessageQuitIfOpened:
-        qDebug() << (wParam != 0);
+        qCDebug(lcPanel) << (wParam != 0);
         if (wParam != 0 && programStarted)
             QCoreApplication::quit();
         break;

@@ -11,7 +11,5 @@ QString dataDirectory();
 bool isDebugMode();
 // Launches the control service from this program's own directory unless it already runs.
 void startControl();
-// True when the first argument is exactly "open".
-bool isOpenArgument(int argc, char* argv[]);
 
 } // namespace Startup

@@ -1,56 +1,72 @@
 // Entry point of the panel: one instance per user, then the controller.
 #include "Accessibility.h"
 #include "AppGlobals.h"
+#include "CommandLine.h"
+#include "GraphicalSession.h"
 #include "PanelMessageBox.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
-#include "Startup.h"
 
 #include <QApplication>
 
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
-constexpr char kUsage[] =
-    "Usage: norvalex-rgb [open]\n"
-    "Control panel for the RGB lighting of memory modules.\n"
-    "\n"
-    "  open           started by the control service; it may close the panel again\n"
-    "  -h, --help     show this help and exit\n"
-    "  -v, --version  show the version and exit\n"
+constexpr char kHelpEpilogue[] =
     "\n"
     "The panel starts norvalex-control from its own directory when it is not running and loads\n"
     "libNORVALEX_Lighting from there. Creating the file ModuleDevice.ini with\n"
-    "[DebugMode] isDebugMode=true in the data directory writes a log (NORVALEXRGB_UI_Log.txt).\n";
+    "[DebugMode] isDebugMode=true in the data directory writes a log (NORVALEXRGB_UI_Log.txt).\n"
+    "QT_LOGGING_RULES=\"norvalex.panel.debug=true\" prints the diagnostic lines on standard "
+    "error.\n";
 
-// Answers --help and --version before any window system is needed. Returns true when handled.
-bool answerTerminal(int argc, char* argv[])
+QStringList argumentList(int argc, char* argv[])
 {
-    if (argc < 2)
-        return false;
-    const char* arg = argv[1];
-    if (std::strcmp(arg, "-h") == 0 || std::strcmp(arg, "--help") == 0) {
-        std::fputs(kUsage, stdout);
-        return true;
-    }
-    if (std::strcmp(arg, "-v") == 0 || std::strcmp(arg, "--version") == 0) {
-        std::printf("NORVALEX RGB %s\n", qPrintable(programVersion));
-        return true;
-    }
-    return false;
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return arguments;
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    if (answerTerminal(argc, argv))
+    // Answered before any window system is needed.
+    CommandLine commandLine;
+    const QStringList arguments = argumentList(argc, argv);
+    switch (commandLine.parse(arguments)) {
+    case CommandLine::Action::Fail:
+        std::fprintf(stderr, "norvalex-rgb: %s\nTry 'norvalex-rgb --help' for more information.\n",
+                     qPrintable(commandLine.errorText()));
+        return 2;
+    case CommandLine::Action::ShowHelp: {
+        QCoreApplication core(argc, argv);
+        std::fputs(qPrintable(commandLine.helpText()), stdout);
+        std::fputs(kHelpEpilogue, stdout);
         return 0;
+    }
+    case CommandLine::Action::ShowVersion:
+        std::printf("NORVALEX RGB %s\n", qPrintable(programVersion));
+        return 0;
+    case CommandLine::Action::Run:
+        break;
+    }
+    if (!GraphicalSession::isAvailable(arguments)) {
+        std::fputs(GraphicalSession::missingMessage(QByteArray()).constData(), stderr);
+        return 1;
+    }
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    // Every widget paints with the raster engine; without this the X11 layer loads the whole
+    // OpenGL stack for the first window (about 50 MB) although nothing draws with it.
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, true);
+    GraphicalSession::beginConnecting();
     QApplication app(argc, argv);
+    GraphicalSession::endConnecting();
+    // Lets the desktop match the window to its entry (Wayland app id, task bar icon).
+    QGuiApplication::setDesktopFileName(QStringLiteral(NX_APP_ID));
     PanelMessageBox::install();
     Accessibility::install();
 
@@ -63,6 +79,7 @@ int main(int argc, char* argv[])
         return 0;
     }
 
+    startMinimised = commandLine.isBackground();
     auto* controller = new QXRGBMemory();
 #ifndef Q_OS_WIN
     // Only Win32 finds a window by its title; elsewhere the title is served by a listener and the
@@ -74,7 +91,7 @@ int main(int argc, char* argv[])
     void* listener =
         Platform::listenForMessages(L"NORVALEX", &QXRGBMemory::nativeMessageHandler, controller);
 
-    if (Startup::isOpenArgument(argc, argv))
+    if (commandLine.isOpen())
         controller->setProgramStart(true);
 
     const int result = app.exec();

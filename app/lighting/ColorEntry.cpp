@@ -3,9 +3,9 @@
 #include "ChannelValidator.h"
 #include "LightingLook.h"
 #include "Lighting_View.h"
+#include "Log.h"
 #include "RGB_Palette.h"
 
-#include <QDebug>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -89,7 +89,7 @@ void ColorEntry::showValue(int channel, int value)
 COLORREF ColorEntry::commit(int channel)
 {
     QLineEdit* field = fields[channel];
-    qDebug() << "Lighting_View::commitLineEdit" << field->objectName() << field->text();
+    qCDebug(lcPanel) << "Lighting_View::commitLineEdit" << field->objectName() << field->text();
     sliders[channel]->setValue(field->text().toInt());
     // Return hands the focus to the channel's slider rather than dropping it.
     if (field->hasFocus())
@@ -107,7 +107,7 @@ void ColorEntry::nameChannels()
         sliders[c]->setAccessibleName(names[c]);
         fields[c]->setAccessibleName(names[c]);
     }
-    wheel->setAccessibleName(Lighting_View::tr("Colour wheel"));
+    wheel->setAccessibleName(Lighting_View::tr("Color wheel"));
 }
 
 void ColorEntry::filterFieldEvent(QObject* watched, QEvent* event)
@@ -116,9 +116,9 @@ void ColorEntry::filterFieldEvent(QObject* watched, QEvent* event)
         if (watched != fields[c])
             continue;
         if (event->type() == QEvent::FocusIn) {
-            qDebug() << fields[c]->objectName() << "FocusIn";
+            qCDebug(lcPanel) << fields[c]->objectName() << "FocusIn";
         } else if (event->type() == QEvent::FocusOut) {
-            qDebug() << qPrintable(fields[c]->objectName() + QStringLiteral(" FocusOut"));
+            qCDebug(lcPanel) << qPrintable(fields[c]->objectName() + QStringLiteral(" FocusOut"));
             // An entry that was not confirmed with Return is discarded.
             fields[c]->setText(QString::number(sliders[c]->value()));
         }

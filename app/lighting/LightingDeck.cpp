@@ -5,10 +5,10 @@
 #include "LightModeTable.h"
 #include "LightingLook.h"
 #include "Lighting_View.h"
+#include "Log.h"
 #include "SwitchButton.h"
 
 #include <QComboBox>
-#include <QDebug>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -249,12 +249,12 @@ void LightingDeck::setBrightness(float bright)
 void LightingDeck::showMbSyncWarning(bool shown)
 {
     if (shown) {
-        qDebug() << "label_MB_Sync->setHidden(false)";
+        qCDebug(lcPanel) << "label_MB_Sync->setHidden(false)";
         label_MB_Sync->setHidden(false);
         // The warning reaches over the colour wheel; it must not be painted under it.
         label_MB_Sync->raise();
     } else {
-        qDebug() << "label_MB_Sync->setHidden(true)";
+        qCDebug(lcPanel) << "label_MB_Sync->setHidden(true)";
         label_MB_Sync->setHidden(true);
     }
 }

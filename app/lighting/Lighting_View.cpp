@@ -6,6 +6,7 @@
 #include "LightModeTable.h"
 #include "LightingDeck.h"
 #include "LightingLook.h"
+#include "Log.h"
 #include "Memory_RGB_View.h"
 #include "Palette_draw_rect.h"
 #include "RGB_Palette.h"
@@ -17,13 +18,11 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QDebug>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPropertyAnimation>
 #include <QPushButton>
 #include <QSlider>
 
@@ -200,7 +199,7 @@ void Lighting_View::applyLanguageFonts()
 
 void Lighting_View::checkLightingRule(int lightMode)
 {
-    qDebug() << "Lighting_View::checkLightingRule" << lightMode;
+    qCDebug(lcPanel) << "Lighting_View::checkLightingRule" << lightMode;
     const LightModeTable::Rule rule = LightModeTable::rule(lightMode);
     QComboBox* colorCombo = deck->comboBox_ColorMode;
     QComboBox* speedCombo = deck->comboBox_LightSpeed;
@@ -214,13 +213,13 @@ void Lighting_View::checkLightingRule(int lightMode)
         colorModeMap.insert(tr(qPrintable(rule.colorItems.at(i))), colorModeMap.size());
         LightingDeck::addKeyedItem(colorCombo, rule.colorItems.at(i));
     }
-    qDebug() << rule.groupDiagnostic;
+    qCDebug(lcPanel) << rule.groupDiagnostic;
     deck->slider_Light->setDisabled(!rule.brightnessEnabled);
 
     if (rule.randomAdded) {
         colorModeMap.insert(tr(qPrintable(rule.colorItems.last())), colorModeMap.size());
         LightingDeck::addKeyedItem(colorCombo, rule.colorItems.last());
-        qDebug() << "Add Random";
+        qCDebug(lcPanel) << "Add Random";
     }
     colorCombo->setEnabled(rule.colorComboEnabled);
     LightingDeck::appendHiddenEmptyItem(colorCombo);
@@ -360,7 +359,7 @@ void Lighting_View::finishEditMode()
 
 void Lighting_View::slotApply()
 {
-    qDebug() << "Lighting_View::slotApply";
+    qCDebug(lcPanel) << "Lighting_View::slotApply";
     for (int i = 0; i < SlotCount; ++i) {
         if (!isSlotChecked(i))
             continue;
@@ -373,7 +372,7 @@ void Lighting_View::slotApply()
             if (!deck->comboBox_LightSpeed->currentText().isEmpty())
                 module.lightSpeed = deck->comboBox_LightSpeed->currentIndex();
         }
-        qDebug() << "UI-->changeBright ==" << deck->slider_Light->value();
+        qCDebug(lcPanel) << "UI-->changeBright ==" << deck->slider_Light->value();
         emit changeBright(static_cast<float>(deck->slider_Light->value() / 10.0));
         Memory_RGB_View* strip = memoryRGBView[i];
         emit changeColor(i, strip->ledColor, strip->singleColor, strip->ledBright,
@@ -391,7 +390,7 @@ void Lighting_View::slotApply()
 
 void Lighting_View::slotEdit()
 {
-    qDebug() << "Lighting_View::slotEdit";
+    qCDebug(lcPanel) << "Lighting_View::slotEdit";
     for (int i = 0; i < SlotCount; ++i)
         savedOrder[i] = memoryRGBView[i]->slotPosition;
     if (isEditMode()) {
@@ -405,7 +404,7 @@ void Lighting_View::slotEdit()
 
 void Lighting_View::slotEdit_Cancel()
 {
-    qDebug() << "Lighting_View::slotEdit_Cancel";
+    qCDebug(lcPanel) << "Lighting_View::slotEdit_Cancel";
     label_DragSlot->hide();
     slotLayout->cancelEditMode();
     update();
@@ -413,7 +412,7 @@ void Lighting_View::slotEdit_Cancel()
 
 void Lighting_View::slotEdit_Apply()
 {
-    qDebug() << "Lighting_View::slotEdit_Apply";
+    qCDebug(lcPanel) << "Lighting_View::slotEdit_Apply";
     finishEditMode();
     int order[SlotCount];
     slotLayout->currentOrder(order);
@@ -424,7 +423,7 @@ void Lighting_View::slotEdit_Apply()
 
 void Lighting_View::slotDefault()
 {
-    qDebug() << "Lighting_View::slotDefault";
+    qCDebug(lcPanel) << "Lighting_View::slotDefault";
     emit changeBright(1.0f);
     for (int i = 0; i < SlotCount; ++i) {
         if (!isSlotChecked(i))
@@ -437,7 +436,7 @@ void Lighting_View::slotDefault()
 
 void Lighting_View::currentLightModeIndex(int lightMode)
 {
-    qDebug() << "Lighting_View::currentLightModeIndex" << lightMode;
+    qCDebug(lcPanel) << "Lighting_View::currentLightModeIndex" << lightMode;
     currentLightMode = lightMode;
     deck->btn_LightMode->setText(lightModeName(lightMode));
     checkLightingRule(lightMode);
@@ -451,7 +450,7 @@ void Lighting_View::currentLightModeIndex(int lightMode)
 
 void Lighting_View::currentColorModeIndex(int index)
 {
-    qDebug() << "Lighting_View::currentColorModeIndex" << index;
+    qCDebug(lcPanel) << "Lighting_View::currentColorModeIndex" << index;
     for (int i = 0; i < SlotCount; ++i) {
         if (isSlotChecked(i))
             emit changeColorMode(i, colorModeOfComboText());
@@ -461,22 +460,22 @@ void Lighting_View::currentColorModeIndex(int index)
 
 void Lighting_View::currentLightSpeedIndex(int index)
 {
-    qDebug() << "Lighting_View::currentLightSpeedIndex" << index;
+    qCDebug(lcPanel) << "Lighting_View::currentLightSpeedIndex" << index;
 }
 
 void Lighting_View::updatePreview()
 {
-    qDebug() << "Lighting_View::updatePreview";
+    qCDebug(lcPanel) << "Lighting_View::updatePreview";
 }
 
 void Lighting_View::updatePreviewList(QList<COLORREF*> list)
 {
-    qDebug() << "Lighting_View::updatePreviewList" << list.size();
+    qCDebug(lcPanel) << "Lighting_View::updatePreviewList" << list.size();
 }
 
 void Lighting_View::slot_SelectMemSlot(int slot)
 {
-    qDebug() << "Lighting_View::slot_SelectMemSlot" << slot;
+    qCDebug(lcPanel) << "Lighting_View::slot_SelectMemSlot" << slot;
     for (int i = 0; i < SlotCount; ++i) {
         if (isSlotChecked(i)) {
             SelectMemoryIndex = i;
@@ -513,7 +512,7 @@ void Lighting_View::slot_SelectMemSlot(int slot)
 
 void Lighting_View::slot_TurnOn_Switch(bool on)
 {
-    qDebug() << "Lighting_View::slot_TurnOn_Switch" << on;
+    qCDebug(lcPanel) << "Lighting_View::slot_TurnOn_Switch" << on;
     deck->showSwitchLabel(on);
     for (int i = 0; i < SlotCount; ++i) {
         if (isSlotChecked(i))
@@ -524,7 +523,8 @@ void Lighting_View::slot_TurnOn_Switch(bool on)
 void Lighting_View::slot_SelectHorizontal()
 {
     auto* button = qobject_cast<QPushButton*>(sender());
-    qDebug() << "Lighting_View::slot_SelectHorizontal" << (button ? button->text() : QString());
+    qCDebug(lcPanel) << "Lighting_View::slot_SelectHorizontal"
+                     << (button ? button->text() : QString());
     if (!button || isEditMode())
         return;
     const QString text = button->text();
@@ -536,13 +536,13 @@ void Lighting_View::slot_SelectHorizontal()
 
 void Lighting_View::changeSliderBright(int value)
 {
-    qDebug() << "Lighting_View::changeSliderBright" << value;
+    qCDebug(lcPanel) << "Lighting_View::changeSliderBright" << value;
     emit changeBright(static_cast<float>(value / 10.0));
 }
 
 void Lighting_View::slotLightMode()
 {
-    qDebug() << "Lighting_View::slotLightMode";
+    qCDebug(lcPanel) << "Lighting_View::slotLightMode";
     if (widget_Light_Mode_View->isHidden()) {
         widget_Light_Mode_View->show();
         widget_Light_Mode_View->raise();
@@ -557,32 +557,32 @@ void Lighting_View::slotLightMode()
 void Lighting_View::slot_Profile()
 {
     const int profile = buttonGroup_Profile->checkedId();
-    qDebug() << "Lighting_View::slot_Profile" << profile;
+    qCDebug(lcPanel) << "Lighting_View::slot_Profile" << profile;
     emit select_Profile(profile);
 }
 
 void Lighting_View::slot_setProfile(int profile)
 {
-    qDebug() << "Lighting_View::slot_setProfile" << profile;
+    qCDebug(lcPanel) << "Lighting_View::slot_setProfile" << profile;
     if (QAbstractButton* button = buttonGroup_Profile->button(profile))
         button->setChecked(true);
 }
 
 void Lighting_View::slot_R_Value(int value)
 {
-    qDebug() << "Lighting_View::slot_R_Value" << value;
+    qCDebug(lcPanel) << "Lighting_View::slot_R_Value" << value;
     deck->colorEntry->showValue(ColorEntry::Red, value);
 }
 
 void Lighting_View::slot_G_Value(int value)
 {
-    qDebug() << "Lighting_View::slot_G_Value" << value;
+    qCDebug(lcPanel) << "Lighting_View::slot_G_Value" << value;
     deck->colorEntry->showValue(ColorEntry::Green, value);
 }
 
 void Lighting_View::slot_B_Value(int value)
 {
-    qDebug() << "Lighting_View::slot_B_Value" << value;
+    qCDebug(lcPanel) << "Lighting_View::slot_B_Value" << value;
     deck->colorEntry->showValue(ColorEntry::Blue, value);
 }
 
@@ -608,7 +608,7 @@ void Lighting_View::commitLineEdit(int channel)
 
 void Lighting_View::receivePaletteValue(COLORREF color)
 {
-    qDebug() << "Lighting_View::receivePaletteValue" << color;
+    qCDebug(lcPanel) << "Lighting_View::receivePaletteValue" << color;
     deck->colorEntry->setColor(color);
     emit pressRGB(color);
 }
@@ -618,7 +618,7 @@ void Lighting_View::receivePaletteValue(COLORREF color)
 void Lighting_View::setRGB(int slot, COLORREF* colors, COLORREF singleColor, float* brights,
                            float singleBright)
 {
-    qDebug() << "Lighting_View::setRGB" << slot;
+    qCDebug(lcPanel) << "Lighting_View::setRGB" << slot;
     if (slot < 0 || slot >= SlotCount || !colors || !brights)
         return;
     Memory_RGB_View* strip = memoryRGBView[slot];
@@ -630,8 +630,8 @@ void Lighting_View::setRGB(int slot, COLORREF* colors, COLORREF singleColor, flo
 void Lighting_View::setLighting(int slot, int lightMode, int colorMode, int lightSpeed,
                                 bool turnOff)
 {
-    qDebug() << "Lighting_View::setLighting" << slot << lightMode << colorMode << lightSpeed
-             << turnOff;
+    qCDebug(lcPanel) << "Lighting_View::setLighting" << slot << lightMode << colorMode << lightSpeed
+                     << turnOff;
     if (slot < 0 || slot >= SlotCount)
         return;
     MemoryModuleData& module = memoryData[slot];
@@ -661,7 +661,7 @@ void Lighting_View::setLighting(int slot, int lightMode, int colorMode, int ligh
 
 void Lighting_View::setMemorySlots(int slotCount, int availableCount)
 {
-    qDebug() << "Lighting_View::setMemorySlots" << slotCount << availableCount;
+    qCDebug(lcPanel) << "Lighting_View::setMemorySlots" << slotCount << availableCount;
     int ledNumbers[SlotCount];
     for (int i = 0; i < SlotCount; ++i)
         ledNumbers[i] = memoryData[i].ledNum;
@@ -673,7 +673,7 @@ void Lighting_View::setMemorySlots(int slotCount, int availableCount)
 
 void Lighting_View::setMemorySlotNumber(int count, int* order)
 {
-    qDebug() << "Lighting_View::setMemorySlotNumber" << count;
+    qCDebug(lcPanel) << "Lighting_View::setMemorySlotNumber" << count;
     if (!order)
         return;
     const int placed = qBound(0, count, static_cast<int>(SlotCount));
@@ -702,7 +702,7 @@ void Lighting_View::setMemorySlotNumber(int count, int* order)
 
 void Lighting_View::setMemoryLEDNumber(int count, int* ledNumbers)
 {
-    qDebug() << "Lighting_View::setMemoryLEDNumber" << count;
+    qCDebug(lcPanel) << "Lighting_View::setMemoryLEDNumber" << count;
     if (!ledNumbers)
         return;
     const int modules = qBound(0, count, static_cast<int>(SlotCount));
@@ -715,7 +715,7 @@ void Lighting_View::setMemoryLEDNumber(int count, int* ledNumbers)
 
 void Lighting_View::updateLanguage_Lighting()
 {
-    qDebug() << "Lighting_View::updateLanguage_Lighting";
+    qCDebug(lcPanel) << "Lighting_View::updateLanguage_Lighting";
     buildLightModeMap();
     colorModeStandMap.clear();
     const QStringList colorKeys = LightModeTable::colorModeKeys();
@@ -792,7 +792,7 @@ void Lighting_View::mouseReleaseEvent(QMouseEvent* event)
 
 void Lighting_View::pickUpStrip(int slot, const QPoint& pos)
 {
-    qDebug() << "Lighting_View::pickUpStrip" << slot;
+    qCDebug(lcPanel) << "Lighting_View::pickUpStrip" << slot;
     dragSlotIndex = slot;
     Memory_RGB_View* strip = memoryRGBView[slot];
 

@@ -3,10 +3,10 @@
 #include "Accessibility.h"
 #include "LightingLook.h"
 #include "Lighting_View.h"
+#include "Log.h"
 #include "Memory_RGB_View.h"
 #include "Widget_Preview.h"
 
-#include <QDebug>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPropertyAnimation>
@@ -337,7 +337,7 @@ void SlotLayout::setEditControlsEnabled(bool enabled)
 
 void SlotLayout::swapStrips(int dragged, int target)
 {
-    qDebug() << "Lighting_View::swapStrips" << dragged << target;
+    qCDebug(lcPanel) << "Lighting_View::swapStrips" << dragged << target;
     if (dragged < 0 || dragged >= SlotCount)
         return;
     Memory_RGB_View* draggedStrip = s.strips[dragged];

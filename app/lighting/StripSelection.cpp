@@ -3,11 +3,11 @@
 #include "LedAreaSelection.h"
 #include "LightModeTable.h"
 #include "LightingLook.h"
+#include "Log.h"
 #include "Memory_RGB_View.h"
 #include "Palette_draw_rect.h"
 #include "SlotLayout.h"
 
-#include <QDebug>
 #include <QPainter>
 #include <QPolygon>
 #include <QPushButton>
@@ -50,10 +50,10 @@ void StripSelection::drag(const QPoint& pos)
     const QPoint end = LedAreaSelection::clampDragEnd(held - s.band->pos());
     s.endX = end.x();
     s.endY = end.y();
-    qDebug() << "posX:" << pos.x() << ", posY:" << pos.y();
-    qDebug() << "palette_draw_rect->pos().x():" << s.band->pos().x()
-             << ", palette_draw_rect->pos().y():" << s.band->pos().y();
-    qDebug() << "allselect_end_x : " << s.endX << ", allselect_end_y : " << s.endY;
+    qCDebug(lcPanel) << "posX:" << pos.x() << ", posY:" << pos.y();
+    qCDebug(lcPanel) << "palette_draw_rect->pos().x():" << s.band->pos().x()
+                     << ", palette_draw_rect->pos().y():" << s.band->pos().y();
+    qCDebug(lcPanel) << "allselect_end_x : " << s.endX << ", allselect_end_y : " << s.endY;
     s.band->setRect(s.startX, s.startY, s.endX - s.startX, s.endY - s.startY);
 }
 
@@ -75,7 +75,7 @@ void StripSelection::selectInBand(const QPoint& releasePos)
     s.endY = end.y();
     const QPoint start(s.startX, s.startY);
     const LedAreaSelection::Direction direction = LedAreaSelection::direction(start, end);
-    qDebug() << "Lighting_View::selectLedsInBand direction" << direction;
+    qCDebug(lcPanel) << "Lighting_View::selectLedsInBand direction" << direction;
 
     // Band coordinates are page coordinates: the band widget stands at the page's origin.
     const QPoint bandOrigin = s.band->pos();

@@ -1,8 +1,9 @@
 #include "Information_Slots_View.h"
 
+#include "Log.h"
+
 #include <QButtonGroup>
 #include <QChar>
-#include <QDebug>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -188,7 +189,7 @@ void Information_Slots_View::refreshModuleLabels()
 void Information_Slots_View::slot_Select_Memory()
 {
     const QObject* button = sender();
-    qDebug() << "slot_Select_Memory:" << (button ? button->objectName() : QString());
+    qCDebug(lcPanel) << "slot_Select_Memory:" << (button ? button->objectName() : QString());
     refreshModuleLabels();
 }
 

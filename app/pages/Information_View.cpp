@@ -3,9 +3,9 @@
 #include "AccessibleDisplay.h"
 #include "AppGlobals.h"
 #include "Information_Slots_View.h"
+#include "Log.h"
 
 #include <QConicalGradient>
-#include <QDebug>
 #include <QLabel>
 #include <QPainter>
 
@@ -180,8 +180,8 @@ int Information_View::valueArcSpan(double memoryLoad)
 
 void Information_View::setSystemData(HWData* /*data*/)
 {
-    qDebug() << "Information_View::setSystemData";
-    qDebug() << "Information_View::setSystemData---end";
+    qCDebug(lcPanel) << "Information_View::setSystemData";
+    qCDebug(lcPanel) << "Information_View::setSystemData---end";
 }
 
 void Information_View::setSystemData1(HWData data)
@@ -192,25 +192,25 @@ void Information_View::setSystemData1(HWData data)
     memoryLoad = data.memoryLoad;
     describeGauge();
 
-    qDebug() << "Information_View::physicalMemoryUsed:" << data.physicalMemoryUsed;
+    qCDebug(lcPanel) << "Information_View::physicalMemoryUsed:" << data.physicalMemoryUsed;
     for (int i = 0; i < NX_MODULE_COUNT; ++i)
-        qDebug() << "Information_View::slotIndex:" << i << data.slotIndex[i];
-    qDebug() << "Information_View::memoryCount:" << data.memoryCount;
+        qCDebug(lcPanel) << "Information_View::slotIndex:" << i << data.slotIndex[i];
+    qCDebug(lcPanel) << "Information_View::memoryCount:" << data.memoryCount;
 
     qint64 total = 0;
     for (int i = 0; i < NX_MODULE_COUNT; ++i) {
         if (data.slotIndex[i] < 0)
             continue;
         const MemoryModuleData& module = data.memoryData[i];
-        qDebug() << "Information_View::memoryModuleSize:" << module.memoryModuleSize;
-        qDebug() << "Information_View::memorySlot:" << module.memorySlot;
+        qCDebug(lcPanel) << "Information_View::memoryModuleSize:" << module.memoryModuleSize;
+        qCDebug(lcPanel) << "Information_View::memorySlot:" << module.memorySlot;
         total += module.memoryModuleSize;
     }
     label_Total->setText(QString::number(total / 1024) % QStringLiteral(" GB / ") %
                          QString::number(data.physicalMemoryUsed / 1024) % QStringLiteral("GB"));
 
     information_Slots_View->setModuleData(data.memoryData);
-    qDebug() << "12332112345678";
+    qCDebug(lcPanel) << "12332112345678";
 }
 
 void Information_View::setHWData(HWData data)
@@ -253,8 +253,8 @@ void Information_View::setHWData(HWData data)
     qint64 total = 0;
     for (int i = 0; i < NX_MODULE_COUNT; ++i) {
         const int size = data.memoryData[i].memoryModuleSize;
-        qDebug().nospace() << "hwData.memoryData[" << i << "].memoryModuleSize:" << size << " "
-                           << data.slotIndex[i];
+        qCDebug(lcPanel).nospace() << "hwData.memoryData[" << i << "].memoryModuleSize:" << size
+                                   << " " << data.slotIndex[i];
         if (data.slotIndex[i] >= 0)
             total += size;
     }
@@ -276,7 +276,7 @@ void Information_View::setHWData(HWData data)
 
 void Information_View::updateLanguage_Info()
 {
-    qDebug() << "Information_View::updateLanguage_Info()" << currentLanguage;
+    qCDebug(lcPanel) << "Information_View::updateLanguage_Info()" << currentLanguage;
     label_Dashboard_High->setStyleSheet(
         QString::fromLatin1(currentLanguage == kRussian ? kHighStyleCompact : kHighStyle));
     label_Dashboard->setText(tr("Load"));

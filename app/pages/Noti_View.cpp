@@ -2,11 +2,11 @@
 
 #include "Accessibility.h"
 #include "AppGlobals.h"
+#include "Log.h"
 #include "Platform.h"
 #include "SwitchButton.h"
 #include "Widget_Select_Palette.h"
 
-#include <QDebug>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGridLayout>
@@ -402,12 +402,12 @@ void Noti_View::applyAccessibleNames()
     btn_Unit_Memory->setAccessibleName(QStringLiteral("%1, %2").arg(memory, unit));
     btn_Unit_CPU->setAccessibleName(QStringLiteral("%1, %2").arg(cpu, unit));
     btn_Unit_FanSpeed->setAccessibleName(QStringLiteral("%1, %2").arg(fans, unit));
-    btn_Loading_Color->setAccessibleName(QStringLiteral("%1, %2").arg(loading, tr("colour")));
+    btn_Loading_Color->setAccessibleName(QStringLiteral("%1, %2").arg(loading, tr("color")));
 }
 
 void Noti_View::updateLanguage_Noti()
 {
-    qDebug() << "Noti_View::updateLanguage_Noti()";
+    qCDebug(lcPanel) << "Noti_View::updateLanguage_Noti()";
     applyTexts();
 }
 
@@ -419,7 +419,7 @@ void Noti_View::sendChanged(int changedItem)
 
 void Noti_View::slot_Loading_Switch(bool checked)
 {
-    qDebug() << "Noti_View::slot_Temp_Warning_Switch" << checked;
+    qCDebug(lcPanel) << "Noti_View::slot_Temp_Warning_Switch" << checked;
     notiEventData.loadingSwitch = checked;
     notiEventData.loadingValue = lineEdit_Loading->text().toInt();
     sendChanged(kItemLoading);
@@ -427,7 +427,7 @@ void Noti_View::slot_Loading_Switch(bool checked)
 
 void Noti_View::slot_Shutdown_Switch(bool checked)
 {
-    qDebug() << "Noti_View::slot_Shutdown_Switch" << checked;
+    qCDebug(lcPanel) << "Noti_View::slot_Shutdown_Switch" << checked;
     notiEventData.shutdownMemorySwitch = checked;
     notiEventData.shutdownMemoryValue = lineEdit_Shutdown_Memory->text().toInt();
     sendChanged(kItemShutdownMemory);
@@ -435,7 +435,7 @@ void Noti_View::slot_Shutdown_Switch(bool checked)
 
 void Noti_View::slot_Shutdown_CPU_Switch(bool checked)
 {
-    qDebug() << "Noti_View::slot_Shutdown_CPU_Switch" << checked;
+    qCDebug(lcPanel) << "Noti_View::slot_Shutdown_CPU_Switch" << checked;
     notiEventData.shutdownCPUSwitch = checked;
     notiEventData.shutdownCPUValue = lineEdit_Shutdown_CPU->text().toInt();
     sendChanged(kItemShutdownCPU);
@@ -443,7 +443,7 @@ void Noti_View::slot_Shutdown_CPU_Switch(bool checked)
 
 void Noti_View::slot_FanSpeed_Switch(bool checked)
 {
-    qDebug() << "Noti_View::slot_FanSpeed_Switch" << checked;
+    qCDebug(lcPanel) << "Noti_View::slot_FanSpeed_Switch" << checked;
     notiEventData.fanSpeedSwitch = checked;
     notiEventData.fanSpeedValue = lineEdit_FanSpeed->text().toInt();
     sendChanged(kItemFanSpeed);
@@ -452,7 +452,7 @@ void Noti_View::slot_FanSpeed_Switch(bool checked)
 void Noti_View::slot_LineEdit_Loading()
 {
     notiEventData.loadingValue = lineEdit_Loading->text().toInt();
-    qDebug() << "Noti_View::slot_LineEdit_Loading" << notiEventData.loadingValue;
+    qCDebug(lcPanel) << "Noti_View::slot_LineEdit_Loading" << notiEventData.loadingValue;
     sendChanged(kItemLoading);
     leaveEdit(lineEdit_Loading, btn_Percent);
 }
@@ -460,7 +460,8 @@ void Noti_View::slot_LineEdit_Loading()
 void Noti_View::slot_LineEdit_Shutdown_Memory()
 {
     notiEventData.shutdownMemoryValue = lineEdit_Shutdown_Memory->text().toInt();
-    qDebug() << "Noti_View::slot_LineEdit_Shutdown_Memory" << notiEventData.shutdownMemoryValue;
+    qCDebug(lcPanel) << "Noti_View::slot_LineEdit_Shutdown_Memory"
+                     << notiEventData.shutdownMemoryValue;
     sendChanged(kItemShutdownMemory);
     leaveEdit(lineEdit_Shutdown_Memory, btn_Unit_Memory);
 }
@@ -468,7 +469,7 @@ void Noti_View::slot_LineEdit_Shutdown_Memory()
 void Noti_View::slot_LineEdit_Shutdown_CPU()
 {
     notiEventData.shutdownCPUValue = lineEdit_Shutdown_CPU->text().toInt();
-    qDebug() << "Noti_View::slot_LineEdit_Shutdown_CPU" << notiEventData.shutdownCPUValue;
+    qCDebug(lcPanel) << "Noti_View::slot_LineEdit_Shutdown_CPU" << notiEventData.shutdownCPUValue;
     sendChanged(kItemShutdownCPU);
     leaveEdit(lineEdit_Shutdown_CPU, btn_Unit_CPU);
 }
@@ -476,14 +477,14 @@ void Noti_View::slot_LineEdit_Shutdown_CPU()
 void Noti_View::slot_LineEdit_FanSpeed()
 {
     notiEventData.fanSpeedValue = lineEdit_FanSpeed->text().toInt();
-    qDebug() << "Noti_View::slot_LineEdit_FanSpeed" << notiEventData.fanSpeedValue;
+    qCDebug(lcPanel) << "Noti_View::slot_LineEdit_FanSpeed" << notiEventData.fanSpeedValue;
     sendChanged(kItemFanSpeed);
     leaveEdit(lineEdit_FanSpeed, btn_Unit_FanSpeed);
 }
 
 void Noti_View::slot_Loading_Color()
 {
-    qDebug() << "Noti_View::slot_Loading_Color" << palette_Select->isHidden();
+    qCDebug(lcPanel) << "Noti_View::slot_Loading_Color" << palette_Select->isHidden();
     if (palette_Select->isHidden()) {
         const QRect swatch = btn_Loading_Color->geometry();
         palette_Select->move(widget_Grid->x() + swatch.x(),
@@ -506,8 +507,8 @@ void Noti_View::closePalette()
 
 void Noti_View::slot_Palette_Color(COLORREF color)
 {
-    qDebug() << "Noti_View::slot_Palette_Color" << (color & 255) << ((color >> 8) & 255)
-             << ((color >> 16) & 255);
+    qCDebug(lcPanel) << "Noti_View::slot_Palette_Color" << (color & 255) << ((color >> 8) & 255)
+                     << ((color >> 16) & 255);
     setColorButton(color);
     if (palette_Select->isVisible())
         closePalette();
@@ -522,11 +523,11 @@ void Noti_View::setNotiData(NotiEventData notiData)
     if (!extendedFeatures)
         hideLoadingRow();
 
-    qDebug() << "Noti_View::setNotiData" << notiData.loadingValue;
-    qDebug() << "Noti_View::switch_Loading" << notiData.loadingSwitch;
-    qDebug() << "Noti_View::switch_Shutdown_Memory" << notiData.shutdownMemorySwitch;
-    qDebug() << "Noti_View::switch_Shutdown_CPU" << notiData.shutdownCPUSwitch;
-    qDebug() << "Noti_View::switch_FanSpeed" << notiData.fanSpeedSwitch;
+    qCDebug(lcPanel) << "Noti_View::setNotiData" << notiData.loadingValue;
+    qCDebug(lcPanel) << "Noti_View::switch_Loading" << notiData.loadingSwitch;
+    qCDebug(lcPanel) << "Noti_View::switch_Shutdown_Memory" << notiData.shutdownMemorySwitch;
+    qCDebug(lcPanel) << "Noti_View::switch_Shutdown_CPU" << notiData.shutdownCPUSwitch;
+    qCDebug(lcPanel) << "Noti_View::switch_FanSpeed" << notiData.fanSpeedSwitch;
 
     notiEventData = notiData;
     checkFanSoftware();
@@ -540,19 +541,23 @@ void Noti_View::checkFanSoftware()
     Platform::closeHandle(handle);
 
     if (!exists) {
-        qDebug() << "風扇軟體不存在";
+        qCDebug(lcPanel) << "風扇軟體不存在";
         setFanRowVisible(false);
         notiEventData.fanSpeedSwitch = false;
         notiEventData.fanSpeedValue = lineEdit_FanSpeed->text().toInt();
         sendChanged(kItemFanSpeed);
     } else {
-        qDebug() << "風扇軟體存在";
+        qCDebug(lcPanel) << "風扇軟體存在";
         setFanRowVisible(true);
     }
 }
 
 void Noti_View::setFanRowVisible(bool visible)
 {
+    // The row's underlines lie outside its widgets, so hiding or showing them alone leaves the
+    // lines as they were.
+    if (lineEdit_FanSpeed->isHidden() == visible)
+        update();
     for (QWidget* widget : std::initializer_list<QWidget*>{
              switch_FanSpeed, label_FanSpeed_CPU, label_Greater_FanSpeed, lineEdit_FanSpeed,
              btn_Unit_FanSpeed, label_FanSpeed})
@@ -596,7 +601,7 @@ bool Noti_View::eventFilter(QObject* watched, QEvent* event)
     const bool isFocusChange =
         event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
     if (isEdit && isFocusChange) {
-        qDebug() << watched->objectName();
+        qCDebug(lcPanel) << watched->objectName();
         // A threshold typed but not confirmed with Return is thrown away.
         if (event->type() == QEvent::FocusOut)
             updateWidgetsFromData();
@@ -608,10 +613,10 @@ bool Noti_View::eventFilter(QObject* watched, QEvent* event)
 void Noti_View::focusInEvent(QFocusEvent* event)
 {
     if (event->reason() == Qt::MouseFocusReason)
-        qDebug() << "Noti_View::focusInEven"
-                 << "MouseFocusReason";
+        qCDebug(lcPanel) << "Noti_View::focusInEven"
+                         << "MouseFocusReason";
     else
-        qDebug() << "Noti_View::focusInEven";
+        qCDebug(lcPanel) << "Noti_View::focusInEven";
     QWidget::focusInEvent(event);
 }
 

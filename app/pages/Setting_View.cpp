@@ -2,10 +2,10 @@
 
 #include "Accessibility.h"
 #include "AppGlobals.h"
+#include "Log.h"
 #include "SwitchButton.h"
 #include "Widget_Language.h"
 
-#include <QDebug>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -223,28 +223,28 @@ void Setting_View::connectSignals()
 
 void Setting_View::slot_AutoUpdate_Switch(bool checked)
 {
-    qDebug() << "Setting_View::slot_AutoUpdate_Switch" << checked;
+    qCDebug(lcPanel) << "Setting_View::slot_AutoUpdate_Switch" << checked;
     settingData.autoUpdate = checked;
     emit changeSettingData(settingData);
 }
 
 void Setting_View::slot_AutoRun_Switch(bool checked)
 {
-    qDebug() << "Setting_View::slot_AutoRun_Switch" << checked;
+    qCDebug(lcPanel) << "Setting_View::slot_AutoRun_Switch" << checked;
     settingData.autoRun = checked;
     emit changeSettingData(settingData);
 }
 
 void Setting_View::slot_CurrentLocation_Switch(bool checked)
 {
-    qDebug() << "Setting_View::slot_CurrentLocation_Switch" << checked;
+    qCDebug(lcPanel) << "Setting_View::slot_CurrentLocation_Switch" << checked;
     settingData.currentLocation = checked;
     emit changeSettingData(settingData);
 }
 
 void Setting_View::slot_Language()
 {
-    qDebug() << "Setting_View::slot_Language()";
+    qCDebug(lcPanel) << "Setting_View::slot_Language()";
     widget_Language->move(btn_Language->x() + widget_Grid->x(),
                           btn_Language->y() + btn_Language->height() + widget_Grid->y() + 1);
     widget_Language->raise();
@@ -254,7 +254,7 @@ void Setting_View::slot_Language()
 
 void Setting_View::currentLanguageIndex(int index)
 {
-    qDebug() << "Setting_View::currentLanguageIndex" << index;
+    qCDebug(lcPanel) << "Setting_View::currentLanguageIndex" << index;
     currentLanguage = index;
     settingData.languageIndex = index;
     refresh();
@@ -266,7 +266,7 @@ void Setting_View::currentLanguageIndex(int index)
 
 void Setting_View::setSettingData(SettingData data)
 {
-    qDebug() << "Setting_View::setSettingData";
+    qCDebug(lcPanel) << "Setting_View::setSettingData";
     if (!extendedFeatures) {
         switch_CurrentLocation->hide();
         label_CurrentLocation->hide();
@@ -277,7 +277,7 @@ void Setting_View::setSettingData(SettingData data)
 
 void Setting_View::updateLanguage_Setting()
 {
-    qDebug() << "Setting_View::updateLanguage_Setting()";
+    qCDebug(lcPanel) << "Setting_View::updateLanguage_Setting()";
     refresh();
 }
 

@@ -1,6 +1,7 @@
 #include "Widget_Language.h"
 
-#include <QDebug>
+#include "Log.h"
+
 #include <QGridLayout>
 #include <QPainter>
 #include <QPushButton>
@@ -69,19 +70,19 @@ void Widget_Language::slot_SelectLightMode()
     const QObject* button = sender();
     if (!button)
         return;
-    qDebug() << "btn:" << button->objectName();
+    qCDebug(lcPanel) << "btn:" << button->objectName();
     emit selectLanguage(button->objectName().toInt());
 }
 
 void Widget_Language::focusInEvent(QFocusEvent* event)
 {
-    qDebug() << "focusInEvent";
+    qCDebug(lcPanel) << "focusInEvent";
     QWidget::focusInEvent(event);
 }
 
 void Widget_Language::focusOutEvent(QFocusEvent* event)
 {
-    qDebug() << "focusOutEvent";
+    qCDebug(lcPanel) << "focusOutEvent";
     if (!isHidden())
         hide();
     QWidget::focusOutEvent(event);

@@ -1,7 +1,8 @@
 #include "Widget_LocationPolicy.h"
 
+#include "Log.h"
+
 #include <QCheckBox>
-#include <QDebug>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -73,7 +74,7 @@ Widget_LocationPolicy::Widget_LocationPolicy(QWidget* parent) : QWidget(parent)
     btn_OK->setObjectName(QStringLiteral("btn_OK"));
 
     retranslate();
-    qDebug() << "check_notRemind" << check_notRemind->size();
+    qCDebug(lcPanel) << "check_notRemind" << check_notRemind->size();
 }
 
 void Widget_LocationPolicy::retranslate()
@@ -97,13 +98,13 @@ void Widget_LocationPolicy::placeCheckBox()
 
 void Widget_LocationPolicy::RemindChange(bool checked)
 {
-    qDebug() << "Widget_LocationPolicy::RemindChange()" << checked;
+    qCDebug(lcPanel) << "Widget_LocationPolicy::RemindChange()" << checked;
     notRemind = checked;
 }
 
 void Widget_LocationPolicy::pushOK()
 {
-    qDebug() << "Widget_LocationPolicy::pushOK()";
+    qCDebug(lcPanel) << "Widget_LocationPolicy::pushOK()";
     emit sendPushOK(notRemind);
     close();
 }
@@ -122,7 +123,7 @@ void Widget_LocationPolicy::mouseMoveEvent(QMouseEvent* event)
 
 void Widget_LocationPolicy::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
-    qDebug() << "mouse release";
+    qCDebug(lcPanel) << "mouse release";
     dragging = false;
 }
 

@@ -1,6 +1,7 @@
 #include "Clean_View.h"
 
-#include <QDebug>
+#include "Log.h"
+
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -31,6 +32,6 @@ Clean_View::Clean_View(QWidget* parent) : QWidget(parent)
 
 void Clean_View::updateLanguage_Clean()
 {
-    qDebug() << "Clean_View::updateLanguage_Clean()";
+    qCDebug(lcPanel) << "Clean_View::updateLanguage_Clean()";
     label_Clean->setText(tr("Clean"));
 }

@@ -1,10 +1,10 @@
 #include "Loading_View.h"
 
+#include "Log.h"
 #include "Platform.h"
 
 #include <QConicalGradient>
 #include <QCoreApplication>
-#include <QDebug>
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
@@ -60,7 +60,7 @@ bool nameIsHeld(const wchar_t* name)
 void sendQuit(const wchar_t* title)
 {
     const Platform::WindowHandle window = Platform::findWindow(title);
-    qDebug() << "hwnd = " << window;
+    qCDebug(lcPanel) << "hwnd = " << window;
     Platform::sendMessage(window, Platform::kMessageQuit, 1, 1);
 }
 } // namespace
@@ -112,7 +112,7 @@ void Loading_View::changeEvent(QEvent* event)
 
 void Loading_View::isStartLoading(bool on)
 {
-    qDebug() << "Loading_View::isStartLoading:" << on;
+    qCDebug(lcPanel) << "Loading_View::isStartLoading:" << on;
     isLoading = on;
     if (on) {
         show();
@@ -127,7 +127,7 @@ void Loading_View::isStartLoading(bool on)
 
 void Loading_View::isProductWarning(bool on)
 {
-    qDebug() << "Loading_View::isProductWarning = " << on;
+    qCDebug(lcPanel) << "Loading_View::isProductWarning = " << on;
     label_Warning->setVisible(on);
 }
 
@@ -139,21 +139,21 @@ void Loading_View::rotate()
 
 void Loading_View::slot_CloseApp()
 {
-    qDebug() << "Loading_View::slot_CloseApp";
-    qDebug() << "QXRGBMemoryControl::closeApplication";
+    qCDebug(lcPanel) << "Loading_View::slot_CloseApp";
+    qCDebug(lcPanel) << "QXRGBMemoryControl::closeApplication";
 
     if (nameIsHeld(kPanelMutex)) {
-        qDebug() << "UI EXE有開";
+        qCDebug(lcPanel) << "UI EXE有開";
         sendQuit(kPanelWindow);
     } else {
-        qDebug() << "UI EXE沒開";
+        qCDebug(lcPanel) << "UI EXE沒開";
     }
 
     if (nameIsHeld(kControlMutex)) {
-        qDebug() << "Control EXE有開";
+        qCDebug(lcPanel) << "Control EXE有開";
         sendQuit(kControlWindow);
     } else {
-        qDebug() << "UI EXE沒開";
+        qCDebug(lcPanel) << "UI EXE沒開";
     }
 
     QCoreApplication::quit();

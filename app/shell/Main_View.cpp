@@ -7,13 +7,15 @@
 #include "Information_View.h"
 #include "Lighting_View.h"
 #include "Loading_View.h"
+#include "Log.h"
 #include "Noti_View.h"
 #include "Platform.h"
 #include "Setting_View.h"
 
 #include <QButtonGroup>
+#include <QCloseEvent>
 #include <QCoreApplication>
-#include <QDebug>
+#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -39,6 +41,9 @@ const char* const kWindowTitle = "NORVALEX RGB";
 const wchar_t* const kMessageWindowTitle = L"NORVALEX RGB";
 #endif
 const char* const kBackgroundImage = ":/QXRGBMemory/Images/Main_BG.png";
+const char* const kWindowIcon = ":/QXRGBMemory/Images/AppIcon.png";
+// Sizes handed to the window system; X11 refuses a property as large as the 256-pixel picture.
+constexpr int kWindowIconSizes[] = {16, 24, 32, 48, 64, 128};
 
 constexpr int kLogoWidth = 146;
 constexpr int kLogoHeight = 23;
@@ -86,6 +91,14 @@ QString menuButtonStyle(const QString& name)
            QStringLiteral("::checked {font-family: Arial; font-size:18px; border:none; "
                           "color:white;text-align :left;}");
 }
+QIcon windowIconSet()
+{
+    const QPixmap source(QString::fromLatin1(kWindowIcon));
+    QIcon icon;
+    for (int size : kWindowIconSizes)
+        icon.addPixmap(source.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    return icon;
+}
 } // namespace
 
 Main_View::Main_View(QWidget* parent) : QWidget(parent)
@@ -93,6 +106,7 @@ Main_View::Main_View(QWidget* parent) : QWidget(parent)
     Accessibility::install();
     setWindowTitle(QString::fromLatin1(kWindowTitle));
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+    setWindowIcon(windowIconSet());
     resize(kFrameWidth, kFrameHeight);
     setObjectName(QStringLiteral("Main_View"));
     setFocusPolicy(Qt::ClickFocus);
@@ -327,13 +341,13 @@ void Main_View::createSettingPage()
 
 void Main_View::slot_show_Info()
 {
-    qDebug() << "Main_View::slot_show_Info";
+    qCDebug(lcPanel) << "Main_View::slot_show_Info";
     leaveOtherPages(information_View);
     if (!information_View) {
-        qDebug() << "information_View NULL";
+        qCDebug(lcPanel) << "information_View NULL";
         createInformationPage();
     } else {
-        qDebug() << "information_View";
+        qCDebug(lcPanel) << "information_View";
     }
     information_View->show();
     btn_Info->setChecked(true);
@@ -343,13 +357,13 @@ void Main_View::slot_show_Info()
 
 void Main_View::slot_show_Lighting()
 {
-    qDebug() << "Main_View::slot_show_Lighting";
+    qCDebug(lcPanel) << "Main_View::slot_show_Lighting";
     leaveOtherPages(lighting_View);
     if (!lighting_View) {
-        qDebug() << "lighting_View NULL";
+        qCDebug(lcPanel) << "lighting_View NULL";
         createLightingPage();
     } else {
-        qDebug() << "lighting_View";
+        qCDebug(lcPanel) << "lighting_View";
     }
     lighting_View->show();
     btn_Lighting->setChecked(true);
@@ -365,13 +379,13 @@ void Main_View::slot_show_Lighting()
 
 void Main_View::slot_show_Noti()
 {
-    qDebug() << "Main_View::slot_show_Noti";
+    qCDebug(lcPanel) << "Main_View::slot_show_Noti";
     leaveOtherPages(noti_View);
     if (!noti_View) {
-        qDebug() << "noti_View  NULL";
+        qCDebug(lcPanel) << "noti_View  NULL";
         createNotiPage();
     } else {
-        qDebug() << "noti_View";
+        qCDebug(lcPanel) << "noti_View";
     }
     noti_View->show();
     btn_Noti->setChecked(true);
@@ -382,26 +396,26 @@ void Main_View::slot_show_Noti()
 
 void Main_View::slot_show_Clean()
 {
-    qDebug() << "Main_View::slot_show_Clean";
+    qCDebug(lcPanel) << "Main_View::slot_show_Clean";
     leaveOtherPages(clean_View);
     if (!clean_View) {
-        qDebug() << "clean_View  NULL";
+        qCDebug(lcPanel) << "clean_View  NULL";
         createCleanPage();
     } else {
-        qDebug() << "clean_View";
+        qCDebug(lcPanel) << "clean_View";
     }
     clean_View->show();
 }
 
 void Main_View::slot_show_Setting()
 {
-    qDebug() << "Main_View::slot_show_Setting";
+    qCDebug(lcPanel) << "Main_View::slot_show_Setting";
     leaveOtherPages(setting_View);
     if (!setting_View) {
-        qDebug() << "clean_View  NULL";
+        qCDebug(lcPanel) << "clean_View  NULL";
         createSettingPage();
     } else {
-        qDebug() << "setting_View";
+        qCDebug(lcPanel) << "setting_View";
     }
     setting_View->show();
     btn_Setting->setChecked(true);
@@ -411,12 +425,12 @@ void Main_View::slot_show_Setting()
 
 void Main_View::slot_show_Menu()
 {
-    qDebug() << "Main_View::slot_show_Menu";
+    qCDebug(lcPanel) << "Main_View::slot_show_Menu";
 }
 
 void Main_View::setSlotNumber(int slotCount, int memoryCount)
 {
-    qDebug() << "Main_View::setSlotNumber:" << slotCount << memoryCount;
+    qCDebug(lcPanel) << "Main_View::setSlotNumber:" << slotCount << memoryCount;
     this->slotCount = slotCount;
     this->memoryCount = memoryCount;
     if (information_View)
@@ -438,7 +452,7 @@ void Main_View::setQXModuleType(QStringList list)
                                                  "KZ71", "KZ72", "KZ73", "KZ74"};
     static const QString newGeneration = QStringLiteral("KX44");
 
-    qDebug() << "Main_View::setQXModuleType:" << list;
+    qCDebug(lcPanel) << "Main_View::setQXModuleType:" << list;
     extendedFeatures = false;
     for (const QString& text : qAsConst(list)) {
         for (const char* code : supportedCodes) {
@@ -448,7 +462,7 @@ void Main_View::setQXModuleType(QStringList list)
             }
         }
         if (text.contains(newGeneration)) {
-            qDebug() << "isNewMode == 1";
+            qCDebug(lcPanel) << "isNewMode == 1";
             isNewMode = true;
         }
     }
@@ -459,14 +473,14 @@ void Main_View::setQXModuleType(QStringList list)
 
 void Main_View::updateLanguage_MainView()
 {
-    qDebug() << "Main_View::updateLanguage_MainView()";
+    qCDebug(lcPanel) << "Main_View::updateLanguage_MainView()";
     applyMenuTexts();
     emit updateLanguage();
 }
 
 void Main_View::updateViewData()
 {
-    qDebug() << "Main_View::updateViewData()";
+    qCDebug(lcPanel) << "Main_View::updateViewData()";
     if (lighting_View && lighting_View->isVisible()) {
         emit requestSetSlotNum();
         emit requestSetRGB();
@@ -479,6 +493,13 @@ void Main_View::updateViewData()
         emit requestSettingData();
 }
 
+void Main_View::closeEvent(QCloseEvent* event)
+{
+    qCDebug(lcPanel) << "Main_View::closeEvent";
+    event->accept();
+    emit slot_Close();
+}
+
 void Main_View::handleNativeMessage(unsigned message, quintptr wParam, qintptr /*lParam*/)
 {
     switch (message) {
@@ -486,7 +507,7 @@ void Main_View::handleNativeMessage(unsigned message, quintptr wParam, qintptr /
         QCoreApplication::quit();
         break;
     case Platform::kMessageRaise:
-        qDebug() << "receive 8302";
+        qCDebug(lcPanel) << "receive 8302";
         show();
         setWindowState(Qt::WindowActive);
         activateWindow();

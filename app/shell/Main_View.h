@@ -14,6 +14,7 @@ class Lighting_View;
 class Loading_View;
 class Noti_View;
 class QButtonGroup;
+class QCloseEvent;
 class QLabel;
 class QPushButton;
 class Setting_View;
@@ -101,6 +102,8 @@ public slots:
     void setQXModuleType(QStringList list);
 
 protected:
+    // A close from the window manager (Alt+F4, the taskbar) ends the panel like btn_Close.
+    void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -6,7 +6,7 @@
 
 namespace {
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("ColorNames", text);
 }
@@ -38,24 +38,25 @@ QString describe(const QColor& color)
     const int value = hsv.value();
     const int saturation = hsv.saturation();
     if (value < 24)
-        return tr("off");
+        return translated(QT_TRANSLATE_NOOP("ColorNames", "off"));
     if (saturation < 40) {
         if (value > 215)
-            return tr("white");
-        return value > 120 ? tr("grey") : tr("dark grey");
+            return translated(QT_TRANSLATE_NOOP("ColorNames", "white"));
+        return value > 120 ? translated(QT_TRANSLATE_NOOP("ColorNames", "gray"))
+                           : translated(QT_TRANSLATE_NOOP("ColorNames", "dark gray"));
     }
     const int hue = qMax(0, hsv.hue());
     QString name;
     for (const HueBand& band : kHueBands) {
         if (hue < band.end) {
-            name = tr(band.name);
+            name = translated(band.name);
             break;
         }
     }
     if (value < 110)
-        return tr("dark %1").arg(name);
+        return translated(QT_TRANSLATE_NOOP("ColorNames", "dark %1")).arg(name);
     if (saturation < 130)
-        return tr("pale %1").arg(name);
+        return translated(QT_TRANSLATE_NOOP("ColorNames", "pale %1")).arg(name);
     return name;
 }
 

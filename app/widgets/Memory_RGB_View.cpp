@@ -2,8 +2,8 @@
 
 #include "AppGlobals.h"
 #include "ColorNames.h"
+#include "Log.h"
 
-#include <QDebug>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -146,7 +146,7 @@ void Memory_RGB_View::setLEDNumber(int count)
 
 void Memory_RGB_View::setDisable(bool isAvailable)
 {
-    qDebug() << "setDisable:" << isAvailable;
+    qCDebug(lcPanel) << "setDisable:" << isAvailable;
     available = isAvailable;
     btn_MemorySlot->setCheckable(isAvailable);
     for (QPushButton* led : btn_Led) {
@@ -157,7 +157,7 @@ void Memory_RGB_View::setDisable(bool isAvailable)
 
 void Memory_RGB_View::setEdited(bool isEdited)
 {
-    qDebug() << "Memory_RGB_View::setEdited" << isEdited;
+    qCDebug(lcPanel) << "Memory_RGB_View::setEdited" << isEdited;
     edited = isEdited;
     for (QPushButton* led : btn_Led)
         led->setEnabled(!isEdited);
@@ -184,8 +184,8 @@ void Memory_RGB_View::setSingleRGB(COLORREF color, float bright)
 
 void Memory_RGB_View::pressRGB(COLORREF color)
 {
-    qDebug() << "R= " << (color & 0xFF) << ", G = " << ((color >> 8) & 0xFF)
-             << ", B = " << ((color >> 16) & 0xFF);
+    qCDebug(lcPanel) << "R= " << (color & 0xFF) << ", G = " << ((color >> 8) & 0xFF)
+                     << ", B = " << ((color >> 16) & 0xFF);
     if (!btn_MemorySlot->isChecked())
         return;
     if (colorMode == ModeRgb) {
@@ -246,17 +246,17 @@ void Memory_RGB_View::slot_ChangeBright(float bright)
 
 void Memory_RGB_View::slot_ChangeColorMode(int slot, int mode)
 {
-    qDebug() << "slot_ChangeColorMode:" << slotNumber << slot << mode << colorMode;
+    qCDebug(lcPanel) << "slot_ChangeColorMode:" << slotNumber << slot << mode << colorMode;
     if (slot != slotNumber)
         return;
     colorMode = mode;
     switch (mode) {
     case ModeRgb:
         for (int i = 0; i < LedCount; ++i) {
-            qDebug() << "btn_Led[" << i << "]:" << btn_Led[i];
-            qDebug() << "btn_Led[" << i << "]->isHidden():" << btn_Led[i]->isHidden();
+            qCDebug(lcPanel) << "btn_Led[" << i << "]:" << btn_Led[i];
+            qCDebug(lcPanel) << "btn_Led[" << i << "]->isHidden():" << btn_Led[i]->isHidden();
             paintLed(i, ledColor[i]);
-            qDebug() << "END----";
+            qCDebug(lcPanel) << "END----";
         }
         break;
     case ModeSingle:
@@ -286,7 +286,7 @@ void Memory_RGB_View::slot_Default()
         if (!led->isHidden())
             ++visibleLeds;
     }
-    qDebug() << "Def" << visibleLeds;
+    qCDebug(lcPanel) << "Def" << visibleLeds;
     const COLORREF* defaults = visibleLeds == 8 ? DefaultColorsEight : DefaultColorsFive;
     for (int i = 0; i < LedCount; ++i) {
         ledColor[i] = defaults[i];
@@ -305,7 +305,7 @@ void Memory_RGB_View::slot_Default()
                 paintLed(i, singleColor);
         }
     }
-    qDebug() << "Memory_RGB_View::slot_Default----END";
+    qCDebug(lcPanel) << "Memory_RGB_View::slot_Default----END";
 }
 
 void Memory_RGB_View::slot_Selected(int slot, bool isSelected)

@@ -3,8 +3,8 @@
 #include "AccessibleDisplay.h"
 #include "ColorNames.h"
 #include "FocusRing.h"
+#include "Log.h"
 
-#include <QDebug>
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
@@ -64,11 +64,12 @@ bool RGB_Palette::pickColour(const QPoint& click, const QSize& widgetSize, COLOR
 
 void RGB_Palette::mousePressEvent(QMouseEvent* event)
 {
-    qDebug() << "RGB_Palette::mousePressEvent" << event->pos().x() << event->pos().y();
+    qCDebug(lcPanel) << "RGB_Palette::mousePressEvent" << event->pos().x() << event->pos().y();
     COLORREF colour = 0;
     if (!pickColour(event->pos(), size(), &colour))
         return;
-    qDebug() << "取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF) << ((colour >> 16) & 0xFF);
+    qCDebug(lcPanel) << "取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF)
+                     << ((colour >> 16) & 0xFF);
     emit pressRGB(colour);
 }
 

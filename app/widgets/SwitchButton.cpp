@@ -1,7 +1,8 @@
 #include "SwitchButton.h"
 
+#include "Log.h"
+
 #include <QAccessible>
-#include <QDebug>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
@@ -71,7 +72,7 @@ void SwitchButton::_checkBtn()
     knobAnimation->setEndValue(checked ? offPosition() : onPosition());
     knobAnimation->start();
     checked = !checked;
-    qDebug() << "SwitchButton::_checkBtn" << checked;
+    qCDebug(lcPanel) << "SwitchButton::_checkBtn" << checked;
     showKnobPicture();
 }
 

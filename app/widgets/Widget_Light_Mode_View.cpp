@@ -1,6 +1,7 @@
 #include "Widget_Light_Mode_View.h"
 
-#include <QDebug>
+#include "Log.h"
+
 #include <QGridLayout>
 #include <QPainter>
 #include <QPushButton>
@@ -66,9 +67,9 @@ void Widget_Light_Mode_View::setLightModeMap(const QMap<int, QString>& lightMode
     int count = 0;
     for (auto it = lightModeMap.constBegin(); it != lightModeMap.constEnd(); ++it) {
         const int value = it.key();
-        qDebug() << "lightModeIndex:  " << value << " ,lightModeString :" << it.value();
+        qCDebug(lcPanel) << "lightModeIndex:  " << value << " ,lightModeString :" << it.value();
         if (value >= 0 && value <= 35 && !isOffered(value)) {
-            qDebug() << "aaaaa = " << value;
+            qCDebug(lcPanel) << "aaaaa = " << value;
             continue;
         }
         if (value < 0 || value >= ButtonCount)
@@ -92,9 +93,9 @@ void Widget_Light_Mode_View::setLightModeMap(const QMap<int, QString>& lightMode
             button->show();
         }
         ++count;
-        qDebug() << "modeCount:" << count;
+        qCDebug(lcPanel) << "modeCount:" << count;
     }
-    qDebug() << "lightModeMap.count():" << lightModeMap.count();
+    qCDebug(lcPanel) << "lightModeMap.count():" << lightModeMap.count();
     setLayout(gridLayout);
 }
 
@@ -104,7 +105,7 @@ void Widget_Light_Mode_View::slot_SelectLightMode()
     if (!button)
         return;
     const QString name = button->objectName();
-    qDebug() << "btn:" << name;
+    qCDebug(lcPanel) << "btn:" << name;
     emit selectLightMode(name.toInt());
 }
 
@@ -125,13 +126,13 @@ void Widget_Light_Mode_View::showEvent(QShowEvent* event)
 
 void Widget_Light_Mode_View::focusInEvent(QFocusEvent* event)
 {
-    qDebug() << "focusInEvent";
+    qCDebug(lcPanel) << "focusInEvent";
     QWidget::focusInEvent(event);
 }
 
 void Widget_Light_Mode_View::focusOutEvent(QFocusEvent* event)
 {
-    qDebug() << "focusOutEvent";
+    qCDebug(lcPanel) << "focusOutEvent";
     QWidget::focusOutEvent(event);
     if (isVisible())
         hide();

@@ -2,8 +2,8 @@
 
 #include "AccessibleDisplay.h"
 #include "ColorNames.h"
+#include "Log.h"
 
-#include <QDebug>
 #include <QLinearGradient>
 #include <QMetaObject>
 #include <QMutexLocker>
@@ -89,7 +89,7 @@ void Widget_Preview::setSlotsOrder(int count, const int* order)
 {
     for (int i = 0; i < std::min(count, MaxSlots); ++i) {
         slotIndex[i] = order[i];
-        qDebug() << "slotIndex[" << i << "]:" << slotIndex[i];
+        qCDebug(lcPanel) << "slotIndex[" << i << "]:" << slotIndex[i];
     }
 }
 
@@ -178,7 +178,7 @@ void Widget_Preview::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawFrame(painter, slotNum);
-    qDebug() << "updateSlotNum:" << slotNum << moduleNum;
+    qCDebug(lcPanel) << "updateSlotNum:" << slotNum << moduleNum;
 
     const int bars = std::min(slotNum, MaxSlots);
     for (int i = 0; i < bars; ++i) {
@@ -203,7 +203,7 @@ void Widget_Preview::drawFrame(QPainter& painter, int slotCount) const
 void Widget_Preview::drawBar(QPainter& painter, int entry, int x, const COLORREF* colors) const
 {
     if (entry < moduleNum) {
-        qDebug() << "ledNum[" << entry << "] = " << std::max(ledNum[entry], 1);
+        qCDebug(lcPanel) << "ledNum[" << entry << "] = " << std::max(ledNum[entry], 1);
         QLinearGradient fill(QPointF(0, BarTop), QPointF(0, BarGradientBottom));
         const QGradientStops stops = gradientStops(colors, ledNum[entry]);
         if (!stops.isEmpty())

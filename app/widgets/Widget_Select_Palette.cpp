@@ -1,8 +1,8 @@
 #include "Widget_Select_Palette.h"
 
+#include "Log.h"
 #include "RGB_Palette.h"
 
-#include <QDebug>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -33,12 +33,12 @@ Widget_Select_Palette::~Widget_Select_Palette() = default;
 
 void Widget_Select_Palette::mousePressEvent(QMouseEvent* event)
 {
-    qDebug() << "RGB_Palette::mousePressEvent" << event->pos().x() << event->pos().y();
+    qCDebug(lcPanel) << "RGB_Palette::mousePressEvent" << event->pos().x() << event->pos().y();
     COLORREF colour = 0;
     if (!RGB_Palette::pickColour(event->pos(), size(), &colour))
         return;
-    qDebug() << "弹出色盘取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF)
-             << ((colour >> 16) & 0xFF);
+    qCDebug(lcPanel) << "弹出色盘取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF)
+                     << ((colour >> 16) & 0xFF);
     emit pressRGB(colour);
 }
 
@@ -60,7 +60,7 @@ void Widget_Select_Palette::showEvent(QShowEvent* event)
 
 void Widget_Select_Palette::focusOutEvent(QFocusEvent* event)
 {
-    qDebug() << "Widget_Select_Palette::focusOutEvent";
+    qCDebug(lcPanel) << "Widget_Select_Palette::focusOutEvent";
     QWidget::focusOutEvent(event);
     if (isVisible())
         hide();

@@ -106,33 +106,51 @@ uint32_t applyRequest(ControlState& state, const Request& request)
 {
     switch (request.type) {
     case MessageType::SetLighting: {
-        ModuleLighting& module = state.module(request.slot);
+        ModuleLighting& module = state.profiles[request.profile][request.slot];
+        const ModuleLighting before = module;
         module.lightMode = request.lightMode;
         module.colorMode = request.colorMode;
         module.lightSpeed = request.lightSpeed;
         module.turnOff = request.turnOff;
-        return ChangeLighting;
+        return module != before ? uint32_t(ChangeLighting) : 0u;
     }
     case MessageType::SetColors: {
-        ModuleLighting& module = state.module(request.slot);
+        ModuleLighting& module = state.profiles[request.profile][request.slot];
+        const ModuleLighting before = module;
         for (int i = 0; i < request.count; ++i) {
             module.rgb[i] = request.rgb[i] & kColorMask;
             module.bright[i] = request.bright[i];
         }
         module.singleRGB = request.singleRGB & kColorMask;
         module.singleBright = request.singleBright;
-        return ChangeColors;
+        return module != before ? uint32_t(ChangeColors) : 0u;
     }
-    case MessageType::SetSlotOrder:
+    case MessageType::SetSlotOrder: {
+        if (std::equal(request.order, request.order + request.count, state.slotOrder))
+            return 0;
         std::copy(request.order, request.order + request.count, state.slotOrder);
         return ChangeSlotOrder;
+    }
     case MessageType::SetProfile:
+        if (state.profile == request.profile)
+            return 0;
         state.profile = request.profile;
         return ChangeProfile;
-    case MessageType::SetNotification:
+    case MessageType::SetNotification: {
+        // The item number only says what the sender touched: a record that differs in nothing
+        // else changes no rule. The panel re-sends its rules whenever it is shown them, so
+        // calling that a change would echo for ever. Byte-wise, so that a boolean cell's spare
+        // bytes count as they are stored.
+        NotiEventData previous = state.noti;
+        previous.changedItem = request.noti.changedItem;
+        if (std::memcmp(&previous, &request.noti, sizeof previous) == 0)
+            return 0;
         state.noti = request.noti;
         return ChangeNotification;
+    }
     case MessageType::SetSetting:
+        if (std::memcmp(&state.setting, &request.setting, sizeof state.setting) == 0)
+            return 0;
         state.setting = request.setting;
         return ChangeSetting;
     default:

@@ -67,7 +67,7 @@ SettingData defaultSetting();
 ControlState defaultControlState();
 
 // Applies a request that validateRequest accepted and returns the ChangeFlags it stands for
-// (zero for requests that change no state).
+// (zero when the state is left as it was, whatever the request).
 uint32_t applyRequest(ControlState& state, const Request& request);
 
 } // namespace nxproto

@@ -14,7 +14,7 @@
 
 namespace nxproto {
 
-constexpr uint16_t kProtocolVersion = 1;
+constexpr uint16_t kProtocolVersion = 2;
 constexpr std::size_t kLengthFieldSize = 4;
 constexpr std::size_t kHeaderSize = 8;
 // Upper bound of the length field; the largest message is far below it.

@@ -144,6 +144,7 @@ std::vector<uint8_t> encodeRequest(const Request& request)
         out.u32(static_cast<uint32_t>(request.clientId >> 32));
         break;
     case MessageType::SetLighting:
+        out.i32(request.profile);
         out.i32(request.slot);
         out.i32(request.lightMode);
         out.i32(request.colorMode);
@@ -151,6 +152,7 @@ std::vector<uint8_t> encodeRequest(const Request& request)
         out.u8(request.turnOff ? 1 : 0);
         break;
     case MessageType::SetColors:
+        out.i32(request.profile);
         out.i32(request.slot);
         out.i32(request.count);
         for (COLORREF color : request.rgb)
@@ -199,6 +201,7 @@ bool decodeRequest(const Frame& frame, Request& request, std::string* error)
         break;
     }
     case MessageType::SetLighting:
+        request.profile = in.i32();
         request.slot = in.i32();
         request.lightMode = in.i32();
         request.colorMode = in.i32();
@@ -206,6 +209,7 @@ bool decodeRequest(const Frame& frame, Request& request, std::string* error)
         request.turnOff = in.u8() != 0;
         break;
     case MessageType::SetColors:
+        request.profile = in.i32();
         request.slot = in.i32();
         request.count = in.i32();
         for (COLORREF& color : request.rgb)

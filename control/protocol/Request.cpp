@@ -29,6 +29,8 @@ std::string validateRequest(const Request& request)
 {
     switch (request.type) {
     case MessageType::SetLighting:
+        if (!inRange(request.profile, 0, kProfileCount - 1))
+            return "profile out of range";
         if (!inRange(request.slot, 0, kSlotCount - 1))
             return "slot out of range";
         if (!inRange(request.lightMode, 0, kMaxLightMode))
@@ -39,6 +41,8 @@ std::string validateRequest(const Request& request)
             return "light speed out of range";
         return {};
     case MessageType::SetColors:
+        if (!inRange(request.profile, 0, kProfileCount - 1))
+            return "profile out of range";
         if (!inRange(request.slot, 0, kSlotCount - 1))
             return "slot out of range";
         if (!inRange(request.count, 0, kLedCount))

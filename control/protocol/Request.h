@@ -51,7 +51,8 @@ struct Request {
     COLORREF singleRGB = 0;
     float singleBright = 0.0f;
     int32_t order[kSlotCount] = {};
-    // SetProfile
+    // SetProfile: the profile to show; SetLighting, SetColors: the profile the change is made
+    // for, whichever is current when it arrives
     int32_t profile = 0;
     // SetNotification, SetSetting
     NotiEventData noti = {};

@@ -1,7 +1,6 @@
-// Start-up: the data directory and debug switch, the log line, the language table, the "open"
-// argument and the single-instance rule with a real second process.
+// Start-up: the data directory and debug switch, the language table and the single-instance rule
+// with a real second process.
 #include "Languages.h"
-#include "Log.h"
 #include "Platform.h"
 #include "Startup.h"
 #include "TestEnvironment.h"
@@ -52,12 +51,7 @@ private slots:
     void initTestCase();
     void debugSwitch_data();
     void debugSwitch();
-    void logLineFormat();
-    void logWritesLinesInOrderAndSurvivesMissingDirectory();
     void languageTable();
-    void openArgument_data();
-    void openArgument();
-    void terminalAnswers();
     void secondInstance();
     void runningPanelQuitsOnMessage();
 
@@ -104,45 +98,6 @@ void tst_Startup::debugSwitch()
     QFile::remove(iniPath());
 }
 
-void tst_Startup::logLineFormat()
-{
-    const QMessageLogContext noContext;
-    const QString line = Log::formatLine(QtDebugMsg, noContext, QStringLiteral("hello %1 world"));
-    const QRegularExpression pattern(
-        QStringLiteral("^\u3010\\d{4}-\\d{2}-\\d{2} \\d{2}:\\d{2}:\\d{2}\u3011Debug: hello %1 "
-                       "world File:\\(\\) Line:\\(0\\)$"));
-    QVERIFY2(pattern.match(line).hasMatch(), qPrintable(line));
-
-    const QMessageLogContext withFile("main.cpp", 42, "f", "default");
-    QVERIFY(Log::formatLine(QtWarningMsg, withFile, "x")
-                .endsWith("Warning: x File:(main.cpp) Line:(42)"));
-    QVERIFY(Log::formatLine(QtCriticalMsg, noContext, "x").contains("\u3011Critical: x"));
-    QVERIFY(Log::formatLine(QtFatalMsg, noContext, "x").contains("\u3011Fatal: x"));
-    QVERIFY(Log::formatLine(QtInfoMsg, noContext, "x").contains("\u3011Info: x"));
-    QVERIFY(Log::formatLine(QtMsgType(77), noContext, "x").contains("\u3011 x"));
-}
-
-void tst_Startup::logWritesLinesInOrderAndSurvivesMissingDirectory()
-{
-    const QMessageLogContext context;
-    QDir(Startup::dataDirectory()).removeRecursively();
-    // Without the directory the line is lost, silently.
-    Log::messageHandler(QtDebugMsg, context, QStringLiteral("lost"));
-    QVERIFY(!QFileInfo::exists(Log::filePath()));
-
-    QDir().mkpath(Startup::dataDirectory());
-    Log::messageHandler(QtDebugMsg, context, QStringLiteral("first"));
-    Log::messageHandler(QtWarningMsg, context, QStringLiteral("second \u6e2c\u8a66"));
-    QFile file(Log::filePath());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(file.readAll());
-    const QStringList lines = text.split(QStringLiteral("\r\n"));
-    QCOMPARE(lines.size(), 3);
-    QVERIFY(lines.at(0).contains("Debug: first File:() Line:(0)"));
-    QVERIFY(lines.at(1).contains("Warning: second \u6e2c\u8a66"));
-    QCOMPARE(lines.at(2), QString());
-}
-
 void tst_Startup::languageTable()
 {
     const QStringList codes = {"en", "zh", "cn", "de", "fr", "jp", "th", "ru", "kr", "es"};
@@ -154,43 +109,6 @@ void tst_Startup::languageTable()
     }
     for (int index : {-1, 10, 11, 1000})
         QVERIFY(Languages::fileForIndex(index).isEmpty());
-}
-
-void tst_Startup::openArgument_data()
-{
-    QTest::addColumn<QByteArray>("argument");
-    QTest::addColumn<bool>("open");
-    QTest::newRow("open") << QByteArray("open") << true;
-    QTest::newRow("opened") << QByteArray("opened") << false;
-    QTest::newRow("ope") << QByteArray("ope") << false;
-    QTest::newRow("Open") << QByteArray("Open") << false;
-    QTest::newRow("OPEN") << QByteArray("OPEN") << false;
-    QTest::newRow("empty") << QByteArray("") << false;
-}
-
-void tst_Startup::openArgument()
-{
-    QFETCH(QByteArray, argument);
-    QFETCH(bool, open);
-    char program[] = "norvalex-rgb";
-    char* argv[] = {program, argument.data(), nullptr};
-    QCOMPARE(Startup::isOpenArgument(2, argv), open);
-    QCOMPARE(Startup::isOpenArgument(1, argv), false);
-}
-
-void tst_Startup::terminalAnswers()
-{
-    QProcess help;
-    help.start(panelPath(), {QStringLiteral("--help")});
-    QVERIFY(help.waitForFinished(5000));
-    QCOMPARE(help.exitCode(), 0);
-    QVERIFY(help.readAllStandardOutput().startsWith("Usage: norvalex-rgb"));
-
-    QProcess version;
-    version.start(panelPath(), {QStringLiteral("--version")});
-    QVERIFY(version.waitForFinished(5000));
-    QCOMPARE(version.exitCode(), 0);
-    QCOMPARE(version.readAllStandardOutput(), QByteArray("NORVALEX RGB 1.0.8\n"));
 }
 
 void tst_Startup::secondInstance()

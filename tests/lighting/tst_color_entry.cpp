@@ -2,6 +2,7 @@
 // discarding an uncommitted one, and the swatch.
 
 #include "ColorEntry.h"
+#include "TestEnvironment.h"
 
 #include <QFocusEvent>
 #include <QLabel>

@@ -3,6 +3,7 @@
 
 #include "Memory_RGB_View.h"
 #include "SlotLayout.h"
+#include "TestEnvironment.h"
 #include "Widget_Preview.h"
 
 #include <QLabel>

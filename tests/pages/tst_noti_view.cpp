@@ -47,6 +47,22 @@ bool sameRecord(const NotiEventData& a, const NotiEventData& b)
     return std::memcmp(&a, &b, sizeof(NotiEventData)) == 0;
 }
 
+// Collects the regions a widget is asked to paint.
+class PaintRecorder : public QObject
+{
+public:
+    QRegion painted;
+    bool covers(const QRect& rect) const { return QRegion(rect).subtracted(painted).isEmpty(); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted += static_cast<QPaintEvent*>(event)->region();
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 NotiEventData recordAt(const QSignalSpy& spy, int index)
 {
     return spy.at(index).at(0).value<NotiEventData>();
@@ -71,6 +87,7 @@ private slots:
     void unitCaptions_data();
     void unitCaptions();
     void fanRuleFollowsTheFanProgram();
+    void fanRowRepaintsItsUnderlines();
     void colourPickPath();
 
 private:
@@ -237,6 +254,38 @@ void TestNotiView::fanRuleFollowsTheFanProgram()
     page->setNotiData(sampleRecord());
     QCOMPARE(spy.count(), 2);
     QVERIFY(child("lineEdit_FanSpeed")->isHidden());
+}
+
+void TestNotiView::fanRowRepaintsItsUnderlines()
+{
+    open(true);
+    QVERIFY(QTest::qWaitForWindowExposed(page.get()));
+    PaintRecorder recorder;
+    page->installEventFilter(&recorder);
+    // The 1-pixel lines under the fan row's edit and unit caption, just below each widget.
+    const auto underline = [this](const char* name) {
+        const QWidget* widget = child(QString::fromLatin1(name));
+        return QRect(widget->mapTo(page.get(), QPoint(0, widget->height())),
+                     QSize(widget->width(), 1));
+    };
+    const QRect editLine = underline("lineEdit_FanSpeed");
+    const QRect unitLine = underline("btn_Unit_FanSpeed");
+
+    // The fan-control program goes away while the page is shown: the row and its lines go.
+    fan.reset();
+    QCoreApplication::processEvents();
+    recorder.painted = QRegion();
+    page->setNotiData(sampleRecord());
+    QVERIFY(child("lineEdit_FanSpeed")->isHidden());
+    QTRY_VERIFY(recorder.covers(editLine) && recorder.covers(unitLine));
+
+    // It comes back: the lines are drawn again.
+    fan = std::make_unique<FanProgram>();
+    QCoreApplication::processEvents();
+    recorder.painted = QRegion();
+    page->setNotiData(sampleRecord());
+    QVERIFY(!child("lineEdit_FanSpeed")->isHidden());
+    QTRY_VERIFY(recorder.covers(editLine) && recorder.covers(unitLine));
 }
 
 void TestNotiView::colourPickPath()

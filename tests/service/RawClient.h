@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QLocalSocket>
+#include <QRandomGenerator>
 
 inline QByteArray bytesOf(const std::vector<uint8_t>& frame)
 {
@@ -26,11 +27,22 @@ inline nxproto::Request lightingRequest(int slot, int mode)
 class RawClient
 {
 public:
-    bool connectTo(const QString& path)
+    // Connects and introduces itself with `clientId` (a fresh random one when 0), as the
+    // service drops connections that stay silent.
+    bool connectTo(const QString& path, uint64_t clientId = 0)
     {
         socket_.connectToServer(path);
-        return socket_.waitForConnected(2000);
+        if (!socket_.waitForConnected(2000))
+            return false;
+        nxproto::Request hello;
+        hello.type = nxproto::MessageType::Hello;
+        hello.clientId = clientId != 0 ? clientId : QRandomGenerator::global()->generate64() | 1;
+        sendBytes(bytesOf(nxproto::encodeRequest(hello)));
+        return true;
     }
+    // Continues the seqs of an earlier connection of the same identity.
+    void setNextSeq(uint32_t seq) { nextSeq_ = seq; }
+    uint32_t nextSeq() const { return nextSeq_; }
     bool isConnected() const { return socket_.state() == QLocalSocket::ConnectedState; }
     void sendBytes(const QByteArray& bytes)
     {

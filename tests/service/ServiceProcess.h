@@ -32,9 +32,28 @@ public:
             kill();
     }
 
-    // Starts and waits until its socket accepts connections.
-    bool start(const QStringList& arguments = {})
+    // Changes the environment of the next start; an empty value removes the variable.
+    void setEnvironment(const QString& name, const QString& value)
     {
+        QProcessEnvironment env = process_.processEnvironment();
+        if (value.isEmpty())
+            env.remove(name);
+        else
+            env.insert(name, value);
+        process_.setProcessEnvironment(env);
+    }
+    // Where the socket is expected, when the test changes the runtime directory.
+    void setSocketPath(const QString& path) { socketPath_ = path; }
+    // Its standard error is kept for readAllErrors() instead of forwarded.
+    void captureErrors() { process_.setProcessChannelMode(QProcess::ForwardedOutputChannel); }
+    QString readAllErrors() { return QString::fromLocal8Bit(process_.readAllStandardError()); }
+
+    // Starts and waits until its socket accepts connections.
+    // Simulated modules unless the arguments choose: the tests must not depend on the machine.
+    bool start(QStringList arguments = {})
+    {
+        if (arguments.filter(QStringLiteral("--modules")).isEmpty())
+            arguments.prepend(QStringLiteral("--modules=simulated"));
         process_.start(QStringLiteral(NX_CONTROL_EXECUTABLE), arguments);
         QElapsedTimer clock;
         clock.start();

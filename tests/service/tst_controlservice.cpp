@@ -88,6 +88,31 @@ private slots:
         }
     }
 
+    // Rules and settings sent again unchanged report no change, whatever item the sender
+    // names; any real difference does. Otherwise a panel that re-sends what it is shown echoes
+    // with the service for ever.
+    void unchangedRulesReportNoChange()
+    {
+        ControlState state = defaultControlState();
+        Request noti;
+        noti.type = MessageType::SetNotification;
+        noti.noti = state.noti;
+        noti.noti.changedItem = 3;
+        QCOMPARE(applyRequest(state, noti), 0u);
+        noti.noti.loadingValue += 1;
+        QCOMPARE(applyRequest(state, noti), uint32_t(ChangeNotification));
+        QCOMPARE(state.noti.loadingValue, noti.noti.loadingValue);
+        noti.noti.changedItem = 1;
+        QCOMPARE(applyRequest(state, noti), 0u);
+
+        Request setting;
+        setting.type = MessageType::SetSetting;
+        setting.setting = state.setting;
+        QCOMPARE(applyRequest(state, setting), 0u);
+        setting.setting.languageIndex = (setting.setting.languageIndex + 1) % 10;
+        QCOMPARE(applyRequest(state, setting), uint32_t(ChangeSetting));
+    }
+
     void killedDuringBurstRestartsConsistent()
     {
         RawClient client;

@@ -4,6 +4,7 @@
 #include "Loading_View.h"
 #include "Main_View.h"
 #include "Memory_RGB_View.h"
+#include "Noti_View.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
 #include "RawClient.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include <ctime>
 #include <memory>
 
 namespace {
@@ -52,6 +54,7 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void staticColourOnTwoModulesReachesTheService();
+    void notificationPageSettlesAndKeepsTypedThresholds();
 
 private:
     QTemporaryDir m_root;
@@ -150,6 +153,49 @@ void tst_EndToEnd::staticColourOnTwoModulesReachesTheService()
     // The modules that were not selected keep their mode.
     QCOMPARE(state.state.module(2).lightMode, 5);
     QCOMPARE(state.state.module(3).lightMode, 5);
+}
+
+// The Notification page answers every record with one of its own; when that changes nothing
+// the exchange ends, and a threshold typed into the page reaches the service.
+void tst_EndToEnd::notificationPageSettlesAndKeepsTypedThresholds()
+{
+    QXRGBMemory controller(QStringLiteral(NX_LIGHTING_LIBRARY));
+    QTRY_VERIFY_WITH_TIMEOUT(controller.isInitDone(), 10000);
+    Main_View* frame = controller.mainView();
+    QTRY_VERIFY_WITH_TIMEOUT(!frame->loading_View->isVisible(), 5000);
+    QSignalSpy records(&controller, &QXRGBMemory::setNotiData);
+    QTest::mouseClick(frame->btn_Noti, Qt::LeftButton);
+    QVERIFY(frame->noti_View->isVisible());
+    QTest::qWait(1000);
+    records.clear();
+    timespec before{};
+    timespec after{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &before);
+    QElapsedTimer wall;
+    wall.start();
+    QTest::qWait(1000);
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &after);
+    const double cpuMs =
+        double(after.tv_sec - before.tv_sec) * 1e3 + double(after.tv_nsec - before.tv_nsec) / 1e6;
+    qInfo("Notification page shown: %d records, panel CPU %.1f %% of a core", records.count(),
+          cpuMs * 100.0 / double(wall.elapsed()));
+    QVERIFY2(records.count() <= 1, qPrintable(QString::number(records.count())));
+
+    auto* threshold = child<QLineEdit>(frame->noti_View, "lineEdit_Shutdown_Memory");
+    QVERIFY(threshold);
+    typeInto(threshold, "77");
+    bool reached = false;
+    for (int attempt = 0; attempt < 20 && !reached; ++attempt) {
+        RawClient client;
+        nxproto::StateMessage state;
+        QVERIFY(client.connectTo(m_service->socketPath()));
+        QVERIFY(client.waitForState(&state));
+        reached = state.state.noti.shutdownMemoryValue == 77;
+        if (!reached)
+            QTest::qWait(100);
+    }
+    QVERIFY(reached);
+    QCOMPARE(threshold->text(), QStringLiteral("77"));
 }
 
 QTEST_MAIN(tst_EndToEnd)

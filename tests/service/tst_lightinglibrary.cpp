@@ -8,6 +8,7 @@
 
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QtTest>
@@ -171,7 +172,9 @@ private slots:
         StateMessage state;
         QVERIFY(other.waitForState(&state));
         int events = lightModeEvents;
-        other.send(lightingRequest(6, 24));
+        Request lighting = lightingRequest(6, 24);
+        lighting.profile = state.state.profile; // an edit names the profile it is made for
+        other.send(lighting);
         QVERIFY(waitForEvent(events));
         QTRY_COMPARE(api_.GetValueLightMode(6), 24);
         QCOMPARE(lastLightModeEvent.load(), int(ChangeLighting));
@@ -199,6 +202,40 @@ private slots:
         for (const char* line : {"resolved=23\n", "memoryCount=4\n", "modelCode0=KX44\n",
                                  "lightMode0=31\n", "unloaded=1\n"})
             QVERIFY2(output.contains(line), output.constData());
+    }
+
+    // SIGKILLs in the middle of setter bursts lose no call: the library keeps each request until
+    // the service has it on disk and sends it again to the restarted service.
+    void killsDuringSettersLoseNothing()
+    {
+        if (!service_->isRunning())
+            QVERIFY(service_->start());
+        int modes[kSlotCount];
+        for (int slot = 0; slot < kSlotCount; ++slot)
+            modes[slot] = api_.GetValueLightMode(slot);
+        QRandomGenerator random(QRandomGenerator::global()->generate());
+        for (int round = 0; round < 5; ++round) {
+            const int killAt = random.bounded(150);
+            for (int i = 0; i < 150; ++i) {
+                const int slot = random.bounded(kSlotCount);
+                modes[slot] = random.bounded(kMaxLightMode + 1);
+                api_.SetValueLighting(slot, modes[slot], 0, 0, false);
+                if (i == killAt)
+                    service_->kill();
+                if (i % 10 == 0)
+                    QThread::usleep(500);
+            }
+            QVERIFY(service_->start());
+            const auto matches = [&]() {
+                const ControlState state = serviceState();
+                for (int slot = 0; slot < kSlotCount; ++slot) {
+                    if (state.module(slot).lightMode != modes[slot])
+                        return false;
+                }
+                return true;
+            };
+            QVERIFY2(QTest::qWaitFor(matches, 10000), qPrintable(QString::number(round)));
+        }
     }
 };
 

@@ -50,6 +50,7 @@ private slots:
     void slotNumbers();
     // Last: it quits the application's event loop.
     void nativeMessages();
+    void windowIcon();
 
 private:
     // The requests the frame sends to the controller while it shows the page of `entry`, or
@@ -298,6 +299,34 @@ void TestMainView::nativeMessages()
     // The frame stops listening when it goes.
     frame.reset();
     QCOMPARE(Platform::findWindow(L"NORVALEX RGB"), Platform::WindowHandle(0));
+}
+
+// The frame carries the application icon, which desktops show in the task bar: the logo's mark
+// on a tile, transparent outside the tile's rounded corners, in the small sizes task bars use.
+void TestMainView::windowIcon()
+{
+    const QIcon icon = frame->windowIcon();
+    QVERIFY(!icon.isNull());
+    const QList<QSize> sizes = icon.availableSizes();
+    QVERIFY(sizes.contains(QSize(16, 16)));
+    QVERIFY(sizes.contains(QSize(32, 32)));
+    // X11 takes every size in one _NET_WM_ICON request: at most 65535 words of 32 bits.
+    int words = 0;
+    for (const QSize& size : sizes)
+        words += 2 + size.width() * size.height();
+    QVERIFY2(words <= 65535, qPrintable(QString::number(words)));
+
+    const QImage image = icon.pixmap(64, 64).toImage().convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(image.size(), QSize(64, 64));
+    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+    QCOMPARE(qAlpha(image.pixel(32, 32)), 255);
+    // The mark is the accent blue somewhere across the middle row.
+    bool accent = false;
+    for (int x = 0; x < 64; ++x) {
+        const QColor c = image.pixelColor(x, 32);
+        accent = accent || (c.blue() > 150 && c.blue() > c.red() + 80);
+    }
+    QVERIFY(accent);
 }
 
 QTEST_MAIN(TestMainView)

@@ -103,6 +103,7 @@ private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void sourcesAreCompleteInEveryLanguage();
     void everyPageSwitchesLanguageCompletely();
+    void termsAgreeAcrossPages();
 
 private:
     std::map<QString, Catalogue> m_catalogues;
@@ -123,6 +124,40 @@ void tst_Translations::sourcesAreCompleteInEveryLanguage()
         for (const auto& entry : catalogue)
             if (!english.count(entry.first))
                 problems << code + " has " + entry.first + ", English has not";
+    }
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
+}
+
+void tst_Translations::termsAgreeAcrossPages()
+{
+    QVERIFY(!m_catalogues.empty());
+    QStringList problems;
+    for (const auto& [code, c] : m_catalogues) {
+        const auto tr = [&c = c](const char* key) { return c.at(QString::fromUtf8(key)); };
+        // The same memory load on the Information and the Notification page.
+        if (tr("Information_View/Load") != tr("Noti_View/Loading"))
+            problems << code + ": load is " + tr("Information_View/Load") + " and " +
+                            tr("Noti_View/Loading");
+        // The menu names the page its title names.
+        if (!tr("Noti_View/Setting Notification")
+                 .contains(tr("Main_View/Notification"), Qt::CaseInsensitive))
+            problems << code + ": menu " + tr("Main_View/Notification") + ", page " +
+                            tr("Noti_View/Setting Notification");
+        if (tr("Widget_LocationPolicy/Location_Warning_Title") !=
+            tr("Widget_LocationPolicy/NORVALEX Privacy Policy"))
+            problems << code + ": two names for the privacy policy";
+        // Every light mode and every speed has a name of its own.
+        QSet<QString> names;
+        int count = 0;
+        for (const auto& entry : c) {
+            if (entry.first.startsWith(QLatin1String("Lighting_View/")) &&
+                entry.first.count(QLatin1Char('/')) == 1) {
+                names.insert(entry.second.toCaseFolded());
+                ++count;
+            }
+        }
+        if (names.size() != count)
+            problems << code + ": two Lighting captions read the same";
     }
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
 }

@@ -144,8 +144,8 @@ private slots:
         QTest::newRow("purple") << QColor(140, 0, 255) << "purple";
         QTest::newRow("magenta") << QColor(255, 0, 200) << "magenta";
         QTest::newRow("white") << QColor(255, 255, 255) << "white";
-        QTest::newRow("grey") << QColor(100, 100, 100) << "dark grey";
-        QTest::newRow("light grey") << QColor(180, 180, 180) << "grey";
+        QTest::newRow("grey") << QColor(100, 100, 100) << "dark gray";
+        QTest::newRow("light grey") << QColor(180, 180, 180) << "gray";
         QTest::newRow("black is off") << QColor(0, 0, 0) << "off";
         QTest::newRow("dark red") << QColor(90, 0, 0) << "dark red";
         QTest::newRow("pale blue") << QColor(150, 150, 255) << "pale blue";
@@ -180,7 +180,7 @@ private slots:
                  QStringLiteral("Slot 2, LED C, red"));
         strip.slot_ChangeColorMode(1, 2);
         QCOMPARE(accessible(strip.btn_Led[2])->text(QAccessible::Name),
-                 QStringLiteral("Slot 2, LED C, dark grey"));
+                 QStringLiteral("Slot 2, LED C, dark gray"));
         QCOMPARE(accessible(strip.btn_Led[0])->role(), QAccessible::CheckBox);
     }
 

@@ -1,8 +1,8 @@
 // Word mark: a slanted accent mark followed by "NORVALEX" in white, fitted to 146 x 23.
 #include "ImageRegistry.h"
+#include "Shapes.h"
 
 #include <QFont>
-#include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -15,40 +15,7 @@ constexpr qreal kGap = 6.0;
 constexpr qreal kTextHeight = 15.0;
 constexpr qreal kLetterSpacing = 1.5;
 
-const QColor kAccent(32, 158, 199);
-const QColor kAccentLight(96, 204, 236);
 const QColor kText(255, 255, 255);
-
-// Two slanted bars, the second shorter: reads as a stylised "N" and as a rising level.
-void drawMark(QPainter& painter)
-{
-    const qreal top = (kHeight - kTextHeight) / 2.0;
-    const qreal bottom = top + kTextHeight;
-    QLinearGradient fill(0, bottom, kMarkWidth, top);
-    fill.setColorAt(0.0, kAccent);
-    fill.setColorAt(1.0, kAccentLight);
-
-    QPainterPath tall;
-    tall.moveTo(0.5, bottom);
-    tall.lineTo(0.5 + kMarkSlant, top);
-    tall.lineTo(6.0 + kMarkSlant, top);
-    tall.lineTo(6.0, bottom);
-    tall.closeSubpath();
-
-    QPainterPath shortBar;
-    const qreal shortTop = top + kTextHeight * 0.35;
-    const qreal slant = kMarkSlant * 0.65;
-    shortBar.moveTo(8.5, bottom);
-    shortBar.lineTo(8.5 + slant, shortTop);
-    shortBar.lineTo(kMarkWidth - 2.0 + slant, shortTop);
-    shortBar.lineTo(kMarkWidth - 2.0, bottom);
-    shortBar.closeSubpath();
-
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(fill);
-    painter.drawPath(tall);
-    painter.drawPath(shortBar);
-}
 
 void drawWord(QPainter& painter)
 {
@@ -80,7 +47,8 @@ QImage drawQX_Logo()
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawMark(painter);
+    Shapes::logoMark(
+        painter, QRectF(0, (kHeight - kTextHeight) / 2.0, kMarkWidth + kMarkSlant, kTextHeight));
     drawWord(painter);
     return image;
 }

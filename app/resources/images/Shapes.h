@@ -3,6 +3,7 @@
 // Drawing shared by several pictures.
 
 #include <QImage>
+#include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
@@ -77,6 +78,48 @@ inline QImage chevron(const QColor& colour)
     path.lineTo(12.0, 1.5);
     painter.drawPath(path);
     return image;
+}
+
+// The logo's mark: two slanted accent bars, the second shorter, reading as a stylised "N" and
+// as a rising level. Drawn in a 21 x 15 design box mapped onto `box`; the word mark and the
+// application icon share it.
+inline void logoMark(QPainter& painter, const QRectF& box)
+{
+    constexpr qreal kBoxWidth = 21.0;
+    constexpr qreal kBoxHeight = 15.0;
+    constexpr qreal kSlant = 5.0;
+    const QColor accent(32, 158, 199);
+    const QColor accentLight(96, 204, 236);
+
+    painter.save();
+    painter.translate(box.topLeft());
+    painter.scale(box.width() / kBoxWidth, box.height() / kBoxHeight);
+
+    QLinearGradient fill(0, kBoxHeight, kBoxWidth - kSlant, 0);
+    fill.setColorAt(0.0, accent);
+    fill.setColorAt(1.0, accentLight);
+
+    QPainterPath tall;
+    tall.moveTo(0.5, kBoxHeight);
+    tall.lineTo(0.5 + kSlant, 0);
+    tall.lineTo(6.0 + kSlant, 0);
+    tall.lineTo(6.0, kBoxHeight);
+    tall.closeSubpath();
+
+    const qreal shortTop = kBoxHeight * 0.35;
+    const qreal shortSlant = kSlant * 0.65;
+    QPainterPath shortBar;
+    shortBar.moveTo(8.5, kBoxHeight);
+    shortBar.lineTo(8.5 + shortSlant, shortTop);
+    shortBar.lineTo(kBoxWidth - kSlant - 2.0 + shortSlant, shortTop);
+    shortBar.lineTo(kBoxWidth - kSlant - 2.0, kBoxHeight);
+    shortBar.closeSubpath();
+
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawPath(tall);
+    painter.drawPath(shortBar);
+    painter.restore();
 }
 
 } // namespace Shapes

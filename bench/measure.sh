@@ -1,0 +1,148 @@
+#!/usr/bin/env bash
+# Whole-process figures of the panel and the control service, read from /proc.
+#   bash bench/measure.sh [BUILD_DIR]
+# Runs the panel under its own X server (xvfb-run) in a fresh home, visits the pages with real
+# X input (xdotool) and prints, for every figure, the median of NX_BENCH_RUNS runs (default 3)
+# of NX_BENCH_SECONDS seconds (default 10). CPU is the time every thread of the process spent
+# on a CPU (/proc/PID/task/*/schedstat) over the wall-clock time, in % of one core.
+set -euo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build=$(cd "${1:-$here/build}" && pwd)
+runs=${NX_BENCH_RUNS:-3}
+seconds=${NX_BENCH_SECONDS:-10}
+settle=${NX_BENCH_SETTLE:-3}
+
+if [ -z "${NX_BENCH_UNDER_X:-}" ]; then
+  export NX_BENCH_UNDER_X=1
+  exec xvfb-run -a -s "-screen 0 1280x800x24" bash "${BASH_SOURCE[0]}" "$build"
+fi
+
+for tool in xdotool awk; do
+  command -v "$tool" >/dev/null || { echo "measure.sh: $tool is missing" >&2; exit 2; }
+done
+
+work=$(mktemp -d)
+pids=()
+cleanup() {
+  local pid
+  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+  rm -rf "$work"
+}
+trap cleanup EXIT
+
+now_ms() { echo $(($(date +%s%N) / 1000000)); }
+
+# Nanoseconds on a CPU, summed over the threads alive now.
+cpu_ns() {
+  cat /proc/"$1"/task/*/schedstat 2>/dev/null | awk '{ t += $1 } END { printf "%d\n", t }'
+}
+
+# % of one core used by PID over the measuring period.
+cpu_percent() {
+  local pid=$1 before after start end
+  before=$(cpu_ns "$pid")
+  start=$(date +%s%N)
+  sleep "$seconds"
+  after=$(cpu_ns "$pid")
+  end=$(date +%s%N)
+  awk -v c=$((after - before)) -v w=$((end - start)) 'BEGIN { printf "%.2f\n", 100 * c / w }'
+}
+
+rss_mb() { awk '/^VmRSS:/ { printf "%.1f\n", $2 / 1024 }' /proc/"$1"/status; }
+
+median() { sort -g | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
+
+# A fresh home with private runtime and config directories.
+fresh_home() {
+  local home
+  home=$(mktemp -d "$work/home.XXXX")
+  mkdir -p "$home/config" "$home/runtime"
+  chmod 700 "$home/runtime"
+  echo "$home"
+}
+
+# The service's pid, from the lock it holds in the runtime directory.
+service_pid() {
+  local lock
+  for lock in "$1"/runtime/norvalex-mutex-NORVALEX_Control.exe.lock; do
+    [ -s "$lock" ] && head -n1 "$lock"
+  done
+}
+
+wait_for() { # seconds command...
+  local until=$(($(date +%s) + $1))
+  shift
+  until "$@" >/dev/null 2>&1; do
+    [ "$(date +%s)" -ge "$until" ] && return 1
+    sleep 0.01
+  done
+}
+
+# Menu entries of the 1000 x 600 frame, in window coordinates.
+declare -A menu=([Information]=90 [Lighting]=142 [Notification]=194 [Settings]=246)
+pages=(Information Lighting Notification Settings)
+
+panel_run() {
+  local home pid window service start
+  home=$(fresh_home)
+  start=$(now_ms)
+  HOME=$home XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$home/runtime \
+    QT_QPA_PLATFORM=xcb "$build/bin/norvalex-rgb" >"$home/panel.log" 2>&1 &
+  pid=$!
+  pids+=("$pid")
+  wait_for 20 xdotool search --onlyvisible --name '^NORVALEX RGB$'
+  echo "shown_ms $(($(now_ms) - start))"
+  window=$(xdotool search --onlyvisible --name '^NORVALEX RGB$' | head -n1)
+  wait_for 20 service_pid "$home"
+  service=$(service_pid "$home")
+  pids+=("$service")
+  sleep "$settle"
+  echo "rss_start_mb $(rss_mb "$pid")"
+  local page
+  for page in "${pages[@]}"; do
+    xdotool mousemove --window "$window" 90 "${menu[$page]}" click 1
+    sleep "$settle"
+    echo "panel_${page}_pct $(cpu_percent "$pid")"
+  done
+  echo "rss_pages_mb $(rss_mb "$pid")"
+  kill "$pid" "$service"
+  wait "$pid" 2>/dev/null || true
+  wait_for 10 test ! -e "/proc/$service"
+}
+
+service_run() {
+  local home service client
+  home=$(fresh_home)
+  XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$home/runtime \
+    "$build/bin/norvalex-control" --modules 8 >"$home/service.log" 2>&1 &
+  service=$!
+  pids+=("$service")
+  wait_for 20 test -S "$home/runtime/norvalex-control.sock"
+  sleep "$settle"
+  echo "service_idle_pct $(cpu_percent "$service")"
+  XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$home/runtime \
+    "$build/bench/nx_preview_client" "$build/bin/libNORVALEX_Lighting.so" \
+    $((seconds + 2 * settle)) >"$home/client.log" &
+  client=$!
+  pids+=("$client")
+  sleep "$settle"
+  echo "service_streaming_pct $(cpu_percent "$service")"
+  wait "$client"
+  echo "service_rss_mb $(rss_mb "$service")"
+  kill "$service"
+  wait "$service" 2>/dev/null || true
+}
+
+results="$work/results"
+for ((run = 1; run <= runs; ++run)); do
+  echo "run $run of $runs" >&2
+  panel_run >>"$results"
+  service_run >>"$results"
+done
+
+printf '%-26s %10s   %s\n' figure median "runs"
+for figure in $(awk '{ print $1 }' "$results" | awk '!seen[$0]++'); do
+  values=$(awk -v f="$figure" '$1 == f { print $2 }' "$results")
+  printf '%-26s %10s   %s\n' "$figure" "$(echo "$values" | median)" "$(echo $values)"
+done

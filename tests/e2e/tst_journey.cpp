@@ -1,0 +1,392 @@
+// A user's journey through the real panel under X: start in a clean home (the panel launches
+// the service), read the Information page, light two modules, switch profiles, reorder slots,
+// change a notification rule and the language, quit, start again and find every choice kept.
+// Each step is checked in the service's state, read through our lighting library, and where
+// the user would look, in the pixels of a screenshot.
+#include "LightingApi.h"
+#include "PanelLayout.h"
+#include "Platform.h"
+#include "XSession.h"
+
+#include <QtTest>
+
+#include <QLabel>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <functional>
+#include <memory>
+
+namespace {
+
+constexpr int kModules = 4;
+constexpr int kLeds = 8;
+constexpr int kStartMs = 60000;
+constexpr int kStepMs = 15000;
+const QColor kChosen(40, 200, 120);
+constexpr int kBrightness = 6; // of 10
+
+COLORREF colorRef(QColor c)
+{
+    return COLORREF(c.red()) | COLORREF(c.green()) << 8 | COLORREF(c.blue()) << 16;
+}
+
+} // namespace
+
+class tst_Journey : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void startsAndShowsInformation();
+    void lightsTwoModules();
+    void switchesProfileAndBack();
+    void reordersSlots();
+    void changesThresholdAndLanguage();
+    void keepsEverythingAfterRestart();
+
+private:
+    void startPanel();
+    bool waitForLoaded();
+    QString serviceLock() const;
+    qint64 servicePid() const;
+    QString litModulesFault(const QImage& shot) const;
+    QString waitForShot(const std::function<QString(const QImage&)>& fault, const char* name);
+    void checkState();
+
+    QTemporaryDir m_root;
+    QString m_runtime;
+    QProcess m_panel;
+    XSession m_x;
+    LightingApi m_api;
+    std::unique_ptr<PanelLayout> m_layout;
+    QImage m_germanMenu;
+};
+
+void tst_Journey::initTestCase()
+{
+    QVERIFY(m_root.isValid());
+    QVERIFY2(!qEnvironmentVariableIsEmpty("DISPLAY"), "run under xvfb-run");
+    m_runtime = m_root.path() + "/runtime";
+    for (const char* dir : {"/runtime", "/config", "/data", "/probe-runtime"})
+        QVERIFY(QDir().mkpath(m_root.path() + dir));
+    for (const QString& dir : QStringList{m_runtime, m_root.path() + "/probe-runtime"}) {
+        QFile::setPermissions(dir, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                       QFileDevice::ExeOwner);
+    }
+    qputenv("HOME", m_root.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_root.path() + "/config"));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_root.path() + "/data"));
+
+    // The off-screen frame listens for messages under the panel's title: in a runtime
+    // directory of its own, so that it never answers for the real panel.
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_root.path() + "/probe-runtime"));
+    m_layout = std::make_unique<PanelLayout>(kModules, kModules, kLeds);
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime));
+
+    QString error;
+    QVERIFY2(m_api.load(&error), qPrintable(error));
+}
+
+void tst_Journey::cleanupTestCase()
+{
+    if (m_panel.state() != QProcess::NotRunning) {
+        m_panel.kill();
+        m_panel.waitForFinished(5000);
+    }
+    const qint64 service = servicePid();
+    if (service > 0)
+        ::kill(pid_t(service), SIGTERM);
+}
+
+QString tst_Journey::serviceLock() const
+{
+    return m_runtime + "/norvalex-mutex-NORVALEX_Control.exe.lock";
+}
+
+qint64 tst_Journey::servicePid() const
+{
+    QFile lock(serviceLock());
+    if (!lock.open(QIODevice::ReadOnly))
+        return -1;
+    const qint64 pid = lock.readLine().trimmed().toLongLong();
+    return pid > 0 && QFile::exists(QStringLiteral("/proc/%1").arg(pid)) ? pid : -1;
+}
+
+// As a user starts it: the panel from the build, on the X display, in the clean home.
+void tst_Journey::startPanel()
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QT_QPA_PLATFORM", "xcb");
+    m_panel.setProcessEnvironment(env);
+    m_panel.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_panel.start(QStringLiteral(NX_PANEL_EXECUTABLE), QStringList());
+    QVERIFY(m_panel.waitForStarted(kStepMs));
+    QVERIFY2(m_x.findWindow(QStringLiteral("NORVALEX RGB"), kStartMs), "no panel window");
+    // Without a window manager the keyboard follows the X input focus, given once here: a
+    // focus change later would end the editing of a field.
+    QVERIFY(m_x.focus());
+}
+
+// The loading view shades the whole window; the logo shows white once it is gone.
+bool tst_Journey::waitForLoaded()
+{
+    const QRect logo = m_layout->rectOf(m_layout->frame()->label_Logo);
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < kStartMs) {
+        if (Pixels::brightest(m_x.screenshot(), logo) > 200)
+            return true;
+        QTest::qWait(200);
+    }
+    return false;
+}
+
+void tst_Journey::startsAndShowsInformation()
+{
+    QVERIFY(!QFile::exists(serviceLock()));
+    startPanel();
+    const QImage loading = m_x.screenshot();
+    QVERIFY(waitForLoaded());
+    // The panel launched the service: the library reaches it and sees the simulated modules.
+    QVERIFY(servicePid() > 0);
+    m_api.SharedDLL_init();
+    QTRY_COMPARE_WITH_TIMEOUT(m_api.GetValueHWData().memoryCount, kModules, kStartMs);
+    const HWData data = m_api.GetValueHWData();
+    QCOMPARE(data.memoryData[0].ledNum, kLeds);
+
+    // The Information page is the first page: the gauge and the value columns show text in
+    // white or grey, and the shade is gone from all of it.
+    Main_View* frame = m_layout->frame();
+    const QImage info = m_x.screenshot();
+    QVERIFY(!info.isNull());
+    QVERIFY(Pixels::changedShare(loading, info, QRect(0, 0, 1000, 600)) > 0.3);
+    QVERIFY(Pixels::brightest(info, m_layout->rectOf(frame->information_View)) > 200);
+    QVERIFY(Pixels::brightest(info, m_layout->rectOf(frame->btn_Info)) > 200);
+}
+
+void tst_Journey::lightsTwoModules()
+{
+    Main_View* frame = m_layout->frame();
+    QVERIFY(m_x.click(m_layout->at(frame->btn_Lighting)));
+    QTest::qWait(500);
+
+    // A band from above left of module 1's first LED to below right of module 2's last one.
+    const QPoint from = m_layout->ledRect(0, 0).topLeft() - QPoint(8, 8);
+    const QPoint to = m_layout->ledRect(1, kLeds - 1).bottomRight() + QPoint(8, 8);
+    QVERIFY(m_x.drag(from, to));
+
+    // Static, from the light-mode list.
+    const QPoint staticEntry = m_layout->lightModeEntry(6);
+    QVERIFY(m_x.click(m_layout->at(m_layout->lighting("btn_LightMode"))));
+    QTest::qWait(500);
+    QVERIFY(m_x.click(staticEntry));
+    QTest::qWait(300);
+
+    // The colour typed into R, G and B.
+    const struct {
+        const char* field;
+        int value;
+    } channels[] = {{"lineEdit_R_Value", kChosen.red()},
+                    {"lineEdit_G_Value", kChosen.green()},
+                    {"lineEdit_B_Value", kChosen.blue()}};
+    for (const auto& channel : channels) {
+        QVERIFY(m_x.click(m_layout->at(m_layout->lighting(channel.field))));
+        QVERIFY(m_x.clearField());
+        QVERIFY(m_x.type(QString::number(channel.value)));
+        QVERIFY(m_x.keys({"Return"}));
+    }
+
+    // The brightness handle dragged from the full end to 6 of 10.
+    QWidget* slider = m_layout->lighting("slider_Light");
+    const QRect groove = m_layout->rectOf(slider);
+    const int handle = 10;
+    const QPoint full(groove.right() - handle / 2, groove.center().y());
+    const QPoint six(groove.left() + handle / 2 + (groove.width() - handle) * kBrightness / 10,
+                     groove.center().y());
+    QVERIFY(m_x.drag(full, six));
+
+    QVERIFY(m_x.click(m_layout->at(m_layout->lighting("btn_Apply"))));
+    QTRY_VERIFY_WITH_TIMEOUT(m_api.GetValueLightMode(0) == 6 && m_api.GetValueLightMode(1) == 6,
+                             kStepMs);
+    checkState();
+    QCOMPARE(waitForShot([this](const QImage& shot) { return litModulesFault(shot); }, "lit"),
+             QString());
+}
+
+// What the service holds after the first Apply: the two selected modules static in the chosen
+// colour at 6 of 10, the others untouched.
+void tst_Journey::checkState()
+{
+    for (int slot = 0; slot < 2; ++slot) {
+        QCOMPARE(m_api.GetValueLightMode(slot), 6);
+        QCOMPARE(m_api.GetValueColorMode(slot), 0);
+        QCOMPARE(m_api.GetValueTurnOff(slot), 0);
+        const COLORREF* rgb = m_api.GetValueRGB(slot);
+        const float* bright = m_api.GetValueBright(slot);
+        for (int led = 0; led < kLeds; ++led) {
+            QCOMPARE(rgb[led], colorRef(kChosen));
+            QCOMPARE(qRound(bright[led] * 10), kBrightness);
+        }
+    }
+    for (int slot = 2; slot < kModules; ++slot)
+        QVERIFY(m_api.GetValueLightMode(slot) != 6);
+}
+
+// Takes screenshots until one passes the check or the time is up; the last fault, empty when
+// one passed. With NX_E2E_SHOTS set to a directory, the last screenshot is kept there.
+QString tst_Journey::waitForShot(const std::function<QString(const QImage&)>& fault,
+                                 const char* name)
+{
+    QElapsedTimer clock;
+    clock.start();
+    QString last;
+    QImage shot;
+    do {
+        shot = m_x.screenshot();
+        last = fault(shot);
+        if (!last.isEmpty())
+            QTest::qWait(200);
+    } while (!last.isEmpty() && clock.elapsed() < kStepMs);
+    const QString keep = qEnvironmentVariable("NX_E2E_SHOTS");
+    if (!keep.isEmpty())
+        shot.save(keep + QStringLiteral("/%1-%2.png").arg(QTest::currentTestFunction(), name));
+    return last;
+}
+
+// The LED discs of the two modules and the preview show the chosen colour; the other strips
+// do not. Empty when so, else what is wrong.
+QString tst_Journey::litModulesFault(const QImage& shot) const
+{
+    if (shot.isNull())
+        return QStringLiteral("no screenshot");
+    for (int slot = 0; slot < kModules; ++slot) {
+        for (int led : {0, kLeds - 1}) {
+            const int near = Pixels::countNear(shot, m_layout->ledRect(slot, led), kChosen, 40);
+            if ((slot < 2) != (near > 20))
+                return QStringLiteral("slot %1 LED %2: %3 pixels of the colour")
+                    .arg(slot)
+                    .arg(led)
+                    .arg(near);
+        }
+    }
+    // The preview shows the colour at the chosen brightness.
+    const QRect preview = m_layout->rectOf(m_layout->lighting("widget_Preview"));
+    const QColor dimmed(kChosen.red() * kBrightness / 10, kChosen.green() * kBrightness / 10,
+                        kChosen.blue() * kBrightness / 10);
+    const int near = Pixels::countNear(shot, preview, dimmed, 30);
+    return near > 300 ? QString() : QStringLiteral("preview: %1 pixels of the colour").arg(near);
+}
+
+void tst_Journey::switchesProfileAndBack()
+{
+    const int first = m_api.GetProfile();
+    QVERIFY(m_x.click(m_layout->at(m_layout->lighting("btn_Profile1"))));
+    QTRY_COMPARE_WITH_TIMEOUT(m_api.GetProfile(), 1, kStepMs);
+    // Another whole set-up: the first module is not the static one of profile 1.
+    QTRY_VERIFY_WITH_TIMEOUT(m_api.GetValueLightMode(0) != 6, kStepMs);
+    const auto unlit = [this](const QImage& shot) {
+        const int near = Pixels::countNear(shot, m_layout->ledRect(0, 0), kChosen, 40);
+        return near == 0 ? QString() : QStringLiteral("%1 pixels of the colour").arg(near);
+    };
+    QCOMPARE(waitForShot(unlit, "profile2"), QString());
+
+    QVERIFY(m_x.click(m_layout->at(m_layout->lighting("btn_Profile0"))));
+    QTRY_COMPARE_WITH_TIMEOUT(m_api.GetProfile(), first, kStepMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_api.GetValueLightMode(0), 6, kStepMs);
+    checkState();
+}
+
+void tst_Journey::reordersSlots()
+{
+    const QRect third = m_layout->rectOf(m_layout->strip(2));
+    const QRect fourth = m_layout->rectOf(m_layout->strip(3));
+    QVERIFY(m_x.click(m_layout->at(m_layout->lighting("btn_Edit"))));
+    QTest::qWait(300);
+    QVERIFY(m_x.drag(third.center(), fourth.center(), 12));
+    QTest::qWait(800);
+    QVERIFY(m_x.click(m_layout->at(m_layout->lighting("btn_Edit_Apply"))));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        m_api.GetValueMemorySlotNumber(2) == 3 && m_api.GetValueMemorySlotNumber(3) == 2, kStepMs);
+    QCOMPARE(m_api.GetValueMemorySlotNumber(0), 0);
+    QCOMPARE(m_api.GetValueMemorySlotNumber(1), 1);
+}
+
+void tst_Journey::changesThresholdAndLanguage()
+{
+    Main_View* frame = m_layout->frame();
+    const QPoint loading = m_layout->notiField("lineEdit_Loading");
+    QVERIFY(m_x.click(m_layout->at(frame->btn_Noti)));
+    QTest::qWait(500);
+    const int before = m_api.GetNotiEvent().loadingValue;
+    const int chosen = before == 65 ? 75 : 65;
+    QVERIFY(m_x.click(loading));
+    QVERIFY(m_x.clearField());
+    QVERIFY(m_x.type(QString::number(chosen)));
+    QVERIFY(m_x.keys({"Return"}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_api.GetNotiEvent().loadingValue, chosen, kStepMs);
+
+    const QPoint german = m_layout->languageEntry(3);
+    const QRect menu = m_layout->rectOf(frame->btn_Noti);
+    const QImage english = m_x.screenshot();
+    QVERIFY(m_x.click(m_layout->at(frame->btn_Setting)));
+    QTest::qWait(500);
+    QVERIFY(m_x.click(m_layout->at(m_layout->named(frame->setting_View, "btn_Language"))));
+    QTest::qWait(500);
+    QVERIFY(m_x.click(german));
+    QTRY_COMPARE_WITH_TIMEOUT(m_api.GetSettingValue().languageIndex, 3, kStepMs);
+    // The menu speaks German at once.
+    const auto menuChanged = [&](const QImage& shot) {
+        const double changed = Pixels::changedShare(english, shot, menu);
+        return changed > 0.02 ? QString() : QStringLiteral("menu %1 changed").arg(changed);
+    };
+    QCOMPARE(waitForShot(menuChanged, "german"), QString());
+    m_germanMenu = m_x.screenshot().copy(menu);
+}
+
+void tst_Journey::keepsEverythingAfterRestart()
+{
+    const int threshold = m_api.GetNotiEvent().loadingValue;
+    const qint64 service = servicePid();
+    QVERIFY(service > 0);
+
+    // The close button ends the panel; the service stays until it is asked to quit, then
+    // saves and leaves.
+    QVERIFY(m_x.click(m_layout->at(m_layout->named(m_layout->frame(), "btn_Close"))));
+    QVERIFY(m_panel.waitForFinished(kStepMs));
+    QCOMPARE(m_panel.exitCode(), 0);
+    QVERIFY(servicePid() == service);
+    Platform::sendMessage(Platform::findWindow(L"NORVALEX RGB Control"), Platform::kMessageQuit, 0,
+                          0);
+    QTRY_VERIFY_WITH_TIMEOUT(servicePid() < 0, kStepMs);
+
+    startPanel();
+    QVERIFY(waitForLoaded());
+    QTRY_VERIFY_WITH_TIMEOUT(servicePid() > 0 && servicePid() != service, kStartMs);
+    // The library reconnects to the new service and mirrors its state.
+    const quint32 stamp = m_api.GetValueHWData().updateTime;
+    QTRY_VERIFY_WITH_TIMEOUT(m_api.GetValueHWData().updateTime != stamp, kStartMs);
+
+    checkState();
+    QCOMPARE(m_api.GetValueMemorySlotNumber(2), 3);
+    QCOMPARE(m_api.GetValueMemorySlotNumber(3), 2);
+    QCOMPARE(m_api.GetNotiEvent().loadingValue, threshold);
+    QCOMPARE(m_api.GetSettingValue().languageIndex, 3);
+
+    // The panel shows them: German menu, the two modules lit in the chosen colour.
+    const QRect menu = m_layout->rectOf(m_layout->frame()->btn_Noti);
+    const auto sameMenu = [&](const QImage& shot) {
+        return shot.copy(menu) == m_germanMenu ? QString() : QStringLiteral("menu differs");
+    };
+    QCOMPARE(waitForShot(sameMenu, "restart-menu"), QString());
+    QVERIFY(m_x.click(m_layout->at(m_layout->frame()->btn_Lighting)));
+    QCOMPARE(waitForShot([this](const QImage& shot) { return litModulesFault(shot); }, "lit"),
+             QString());
+}
+
+QTEST_MAIN(tst_Journey)
+#include "tst_journey.moc"

@@ -1,0 +1,162 @@
+// The beat and loudness found in audio, and the capture's behaviour without a sound server.
+
+#include "BeatTracker.h"
+#include "MusicCapture.h"
+#include "PrivateSoundServer.h"
+
+#include <QtTest>
+
+#ifdef NX_HAVE_PULSE
+#include <pulse/simple.h>
+#endif
+
+#include <cmath>
+#include <vector>
+
+namespace {
+
+constexpr int kRate = MusicCapture::kSampleRate;
+
+// Drum-like hits (a decaying 80 Hz tone) at `bpm` over a faint hiss, `seconds` long.
+std::vector<float> drums(double bpm, double seconds, float level = 0.8f)
+{
+    std::vector<float> out(std::size_t(seconds * kRate));
+    const double interval = 60.0 / bpm;
+    uint32_t noise = 12345;
+    for (std::size_t i = 0; i < out.size(); ++i) {
+        const double t = double(i) / kRate;
+        const double since = std::fmod(t, interval);
+        noise = noise * 1664525u + 1013904223u;
+        const double hiss = 0.01 * (double(noise >> 8) / double(1u << 24) - 0.5);
+        out[i] = float(level * std::exp(-since * 30.0) * std::sin(2 * M_PI * 80.0 * since) + hiss);
+    }
+    return out;
+}
+
+} // namespace
+
+class MusicTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void followsTheTempo_data();
+    void followsTheTempo();
+    void silenceAndLoudness();
+    void noSoundServer();
+    void hearsTheDesktop();
+};
+
+void MusicTest::followsTheTempo_data()
+{
+    QTest::addColumn<double>("bpm");
+    QTest::newRow("120") << 120.0;
+    QTest::newRow("90") << 90.0;
+    QTest::newRow("150") << 150.0;
+}
+
+void MusicTest::followsTheTempo()
+{
+    QFETCH(double, bpm);
+    BeatTracker tracker(kRate);
+    QCOMPARE(tracker.beat(), -1.0);
+    const std::vector<float> audio = drums(bpm, 8.0);
+    // Fed in odd-sized pieces, as a sound server delivers them.
+    for (std::size_t at = 0; at < audio.size(); at += 1000)
+        tracker.feed(audio.data() + at, std::min<std::size_t>(1000, audio.size() - at));
+    const double expected = 8.0 * bpm / 60.0;
+    QVERIFY2(std::abs(tracker.beat() - expected) <= 1.0,
+             qPrintable(QString::number(tracker.beat())));
+    QVERIFY(std::abs(tracker.interval() - 60.0 / bpm) < 0.03);
+
+    // Half way between two hits the beat stands half way too.
+    BeatTracker half(kRate);
+    const std::vector<float> more = drums(bpm, 4.0 + 30.0 / bpm);
+    half.feed(more.data(), more.size());
+    const double fraction = half.beat() - std::floor(half.beat());
+    QVERIFY2(fraction > 0.35 && fraction < 0.65, qPrintable(QString::number(half.beat())));
+}
+
+void MusicTest::silenceAndLoudness()
+{
+    BeatTracker tracker(kRate);
+    std::vector<float> loud = drums(120, 3.0, 0.8f);
+    tracker.feed(loud.data(), loud.size());
+    QVERIFY(tracker.beat() > 0);
+    // Quieter music reads quieter than the loud music before it.
+    std::vector<float> quiet = drums(120, 0.3, 0.1f);
+    tracker.feed(quiet.data(), quiet.size());
+    const double soft = tracker.loudness();
+    QVERIFY(soft > 0.0 && soft < 0.5);
+    // A long silence loses the beat, so that the effects fall back to their own tempo.
+    const std::vector<float> silence(std::size_t(4 * kRate), 0.0f);
+    tracker.feed(silence.data(), silence.size());
+    QCOMPARE(tracker.loudness(), 0.0);
+    QCOMPARE(tracker.beat(), -1.0);
+}
+
+void MusicTest::noSoundServer()
+{
+    const QByteArray saved = qgetenv("PULSE_SERVER");
+    qputenv("PULSE_SERVER", "unix:/nonexistent/norvalex-test/native");
+    MusicCapture capture;
+    capture.start();
+    QVERIFY(capture.started());
+    QTest::qWait(200);
+    QVERIFY(!capture.listening());
+    QCOMPARE(capture.reading().beat, -1.0);
+    capture.stop();
+    QVERIFY(!capture.started());
+    qputenv("PULSE_SERVER", saved);
+}
+
+void MusicTest::hearsTheDesktop()
+{
+#ifndef NX_HAVE_PULSE
+    QSKIP("built without libpulse-simple");
+#else
+    // A real sound server of our own with one silent output; drums played into it must be
+    // heard through that output's monitor.
+    PrivateSoundServer server;
+    if (!server.start())
+        QSKIP("pulseaudio is not installed");
+    const QByteArray saved = qgetenv("PULSE_SERVER");
+    qputenv("PULSE_SERVER", server.address());
+
+    MusicCapture capture;
+    capture.start();
+    QTRY_VERIFY_WITH_TIMEOUT(capture.listening(), 10000);
+
+    pa_sample_spec sampleFormat;
+    sampleFormat.format = PA_SAMPLE_FLOAT32NE;
+    sampleFormat.rate = kRate;
+    sampleFormat.channels = 1;
+    int error = 0;
+    pa_simple* player = pa_simple_new(nullptr, "norvalex-test", PA_STREAM_PLAYBACK, nullptr,
+                                      "drums", &sampleFormat, nullptr, nullptr, &error);
+    QVERIFY(player);
+    const std::vector<float> audio = drums(120, 6.0);
+    // Written a tenth of a second at a time: the server takes it at the pace it plays.
+    double loudest = 0;
+    for (std::size_t at = 0; at < audio.size(); at += kRate / 10) {
+        QVERIFY(
+            pa_simple_write(player, audio.data() + at,
+                            std::min<std::size_t>(kRate / 10, audio.size() - at) * sizeof(float),
+                            &error) == 0);
+        loudest = std::max(loudest, capture.reading().loudness);
+    }
+    QVERIFY(pa_simple_drain(player, &error) == 0);
+    pa_simple_free(player);
+
+    const double beat = capture.reading().beat;
+    QVERIFY2(beat >= 6, qPrintable(QString::number(beat)));
+    QVERIFY(loudest > 0.3);
+    capture.stop();
+    QCOMPARE(capture.reading().beat, -1.0);
+
+    qputenv("PULSE_SERVER", saved);
+#endif
+}
+
+QTEST_GUILESS_MAIN(MusicTest)
+#include "tst_music.moc"

@@ -1,0 +1,41 @@
+#!/bin/bash
+# check_completion.sh BASH_COMPLETION COMPLETION_FILE NORVALEXCTL: what bash offers for
+# norvalexctl command lines, the light-mode names coming from the program itself.
+set -u
+source "$1"
+source "$2"
+ctl=$3
+failures=0
+
+# expect "WORDS..." -- "EXPECTED COMPLETIONS..."
+expect() {
+    local words=() expected=()
+    while [ "$1" != "--" ]; do words+=("$1"); shift; done
+    shift
+    expected=("$@")
+    COMP_WORDS=("$ctl" "${words[@]}")
+    COMP_CWORD=${#words[@]}
+    COMP_LINE="${COMP_WORDS[*]}"
+    COMP_POINT=${#COMP_LINE}
+    COMPREPLY=()
+    _norvalexctl norvalexctl "${words[-1]}" "${COMP_WORDS[COMP_CWORD - 1]}"
+    local got
+    got=$(printf '%s\n' "${COMPREPLY[@]}" | sort | tr '\n' ' ')
+    local want
+    want=$(printf '%s\n' "${expected[@]}" | sort | tr '\n' ' ')
+    if [ "$got" != "$want" ]; then
+        echo "norvalexctl ${words[*]}<TAB>: got '$got', expected '$want'"
+        failures=$((failures + 1))
+    fi
+}
+
+expect mo -- mode modes
+expect --json st -- status stop
+expect profile "" -- 1 2 3 4 5
+expect mode rgb -- rgb-spectrum
+expect mode shoot -- shooting-star
+expect mode static --sl -- --slot
+expect color ff0000 --slot "" -- 1 2 3 4 5 6 7 8
+expect color ff0000 --l -- --led
+expect brightness 40 --l -- 
+exit $failures

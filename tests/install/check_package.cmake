@@ -1,0 +1,70 @@
+# Builds the Debian package from the build with CPack, then checks its contents with dpkg-deb
+# and the package with lintian (no errors allowed).
+file(REMOVE_RECURSE ${WORK_DIR})
+file(MAKE_DIRECTORY ${WORK_DIR})
+execute_process(COMMAND ${CPACK} -G DEB --config ${BUILD_DIR}/CPackConfig.cmake -B ${WORK_DIR}
+                OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE result)
+file(GLOB packages ${WORK_DIR}/*.deb)
+if(NOT result EQUAL 0 OR NOT packages)
+  message(FATAL_ERROR "cpack failed:\n${output}")
+endif()
+list(GET packages 0 package)
+
+set(failures)
+execute_process(COMMAND ${DPKG_DEB} -c ${package} OUTPUT_VARIABLE contents)
+foreach(entry IN ITEMS
+    "/usr/bin/norvalex-rgb -> ../lib/"
+    "/usr/bin/norvalexctl -> ../lib/"
+    "/norvalex/libNORVALEX_Lighting.so"
+    "/norvalex/norvalex-control"
+    "/usr/share/applications/${APP_ID}.desktop"
+    "/usr/share/metainfo/${APP_ID}.metainfo.xml"
+    "/usr/share/icons/hicolor/scalable/apps/${APP_ID}.svg"
+    "/usr/lib/systemd/user/norvalex-control.service"
+    "/usr/lib/systemd/system/norvalex-dmi-cache.service"
+    "/norvalex/norvalex-dmi-cache"
+    "/usr/share/man/man1/norvalexctl.1.gz"
+    "/usr/share/doc/norvalex-rgb/copyright"
+    "/usr/share/doc/norvalex-rgb/changelog.Debian.gz")
+  string(FIND "${contents}" "${entry}" at)
+  if(at EQUAL -1)
+    list(APPEND failures "the package lacks ${entry}")
+  endif()
+endforeach()
+if(contents MATCHES "/usr/local/")
+  list(APPEND failures "the package installs under /usr/local")
+endif()
+
+# Dependencies computed from the binaries, among them Qt's libraries.
+execute_process(COMMAND ${DPKG_DEB} -f ${package} Depends OUTPUT_VARIABLE depends)
+if(NOT depends MATCHES "libqt5core5a" OR NOT depends MATCHES "libc6")
+  list(APPEND failures "dependencies not computed from the binaries: ${depends}")
+endif()
+
+# Stripped: no debugging sections left in the programs.
+execute_process(COMMAND ${DPKG_DEB} -x ${package} ${WORK_DIR}/root)
+file(GLOB_RECURSE programs ${WORK_DIR}/root/usr/lib/*/norvalex-control
+     ${WORK_DIR}/root/usr/lib/norvalex-control)
+foreach(program IN LISTS programs)
+  file(READ ${program} bytes LIMIT 8 HEX)
+  file(STRINGS ${program} debug_sections REGEX "\\.debug_info" LIMIT_COUNT 1)
+  if(debug_sections)
+    list(APPEND failures "${program} is not stripped")
+  endif()
+endforeach()
+if(NOT programs)
+  list(APPEND failures "no norvalex-control in the package")
+endif()
+
+execute_process(COMMAND ${LINTIAN} --no-tag-display-limit ${package}
+                OUTPUT_VARIABLE report ERROR_VARIABLE report RESULT_VARIABLE result)
+message(STATUS "lintian:\n${report}")
+if(report MATCHES "(^|\n)E: ")
+  list(APPEND failures "lintian reports errors")
+endif()
+
+if(failures)
+  list(JOIN failures "\n" text)
+  message(FATAL_ERROR "${text}")
+endif()
+file(REMOVE_RECURSE ${WORK_DIR})

@@ -1,0 +1,213 @@
+#pragma once
+
+// Builds the files the probe reads, from their public layouts, below a temporary root:
+// SMBIOS structures, SPD EEPROM images, hwmon folders and /proc/meminfo.
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <cstdint>
+
+namespace fixture {
+
+inline void put16(QByteArray& b, int offset, uint16_t v)
+{
+    b[offset] = char(v & 0xFF);
+    b[offset + 1] = char(v >> 8);
+}
+
+inline void put32(QByteArray& b, int offset, uint32_t v)
+{
+    for (int i = 0; i < 4; ++i)
+        b[offset + i] = char((v >> (8 * i)) & 0xFF);
+}
+
+// One structure: header, formatted area of `length` bytes, the strings, the double NUL.
+inline QByteArray structure(uint8_t type, int length, uint16_t handle, const QByteArray& body,
+                            const QStringList& strings = {})
+{
+    QByteArray s(length, '\0');
+    s[0] = char(type);
+    s[1] = char(length);
+    put16(s, 2, handle);
+    for (int i = 0; i < body.size() && 4 + i < length; ++i)
+        s[4 + i] = body[i];
+    for (const QString& text : strings)
+        s += text.toLatin1() + '\0';
+    if (strings.isEmpty())
+        s += '\0';
+    s += '\0';
+    return s;
+}
+
+// Type 16, system memory, with `count` devices.
+inline QByteArray memoryArray(int count)
+{
+    QByteArray s = structure(16, 0x17, 0x1000, {});
+    s[0x07] = 0x03; // use: system memory
+    put16(s, 0x0D, uint16_t(count));
+    return s;
+}
+
+struct Device {
+    uint16_t size = 0;         // the 16-bit size word
+    uint32_t extendedSize = 0; // MB, used with size 0x7FFF
+    uint8_t type = 0x1A;       // DDR4
+    uint16_t speed = 0;        // rated, MT/s
+    uint16_t configured = 0;   // configured, MT/s
+    uint32_t extendedConfigured = 0;
+    QString locator;
+    QString bank;
+    QString part;
+};
+
+// Type 17 of SMBIOS 3.3 (0x5C bytes).
+inline QByteArray memoryDevice(const Device& d, uint16_t handle)
+{
+    QByteArray s = structure(17, 0x5C, handle, {});
+    put16(s, 0x04, 0x1000);
+    put16(s, 0x0C, d.size);
+    put32(s, 0x1C, d.extendedSize);
+    s[0x0E] = 0x09; // DIMM
+    QStringList strings;
+    auto addString = [&](int offset, const QString& text) {
+        if (text.isEmpty())
+            return;
+        strings << text;
+        s[offset] = char(strings.size());
+    };
+    addString(0x10, d.locator);
+    addString(0x11, d.bank);
+    s[0x12] = char(d.type);
+    put16(s, 0x15, d.speed);
+    addString(0x1A, d.part);
+    put16(s, 0x20, d.configured);
+    put32(s, 0x58, d.extendedConfigured);
+    const QByteArray area = s.left(0x5C);
+    QByteArray out = area;
+    for (const QString& text : strings)
+        out += text.toLatin1() + '\0';
+    if (strings.isEmpty())
+        out += '\0';
+    out += '\0';
+    return out;
+}
+
+inline QByteArray endOfTable()
+{
+    return structure(127, 4, 0xFFFE, {});
+}
+
+// DDR4 SPD (512 bytes): times in ps split into 125 ps units and a signed fine correction.
+inline QByteArray ddr4Spd(int tckPs, int taaPs, int trcdPs, uint32_t casFlags,
+                          const QByteArray& part = "DDR4-TEST-PART")
+{
+    QByteArray b(512, '\0');
+    b[2] = 0x0C;
+    b[17] = 0x00;
+    auto time = [&](int coarse, int fine, int ps) {
+        int units = (ps + 124) / 125; // round up, correct downward
+        b[coarse] = char(units);
+        b[fine] = char(int8_t(ps - units * 125));
+    };
+    time(18, 125, tckPs);
+    time(24, 123, taaPs);
+    time(25, 122, trcdPs);
+    put32(b, 20, casFlags);
+    QByteArray padded = part.leftJustified(20, ' ');
+    for (int i = 0; i < 20; ++i)
+        b[329 + i] = padded[i];
+    return b;
+}
+
+// DDR5 SPD (1024 bytes): times in ps, CAS latencies as CL 20 + 2 * bit.
+inline QByteArray ddr5Spd(int tckPs, int taaPs, int trcdPs, const QList<int>& latencies,
+                          const QByteArray& part = "DDR5-TEST-PART")
+{
+    QByteArray b(1024, '\0');
+    b[2] = 0x12;
+    put16(b, 20, uint16_t(tckPs));
+    put16(b, 30, uint16_t(taaPs));
+    put16(b, 32, uint16_t(trcdPs));
+    for (int cl : latencies) {
+        const int bit = (cl - 20) / 2;
+        b[24 + bit / 8] = char(uint8_t(b[24 + bit / 8]) | (1 << (bit % 8)));
+    }
+    QByteArray padded = part.leftJustified(30, ' ');
+    for (int i = 0; i < 30; ++i)
+        b[521 + i] = padded[i];
+    return b;
+}
+
+// A fake root folder.
+class Root
+{
+public:
+    QString path() const { return dir_.path(); }
+
+    void write(const QString& relative, const QByteArray& content)
+    {
+        const QString file = path() + QLatin1Char('/') + relative;
+        QDir().mkpath(QFileInfo(file).absolutePath());
+        QFile f(file);
+        f.open(QIODevice::WriteOnly);
+        f.write(content);
+    }
+    void mkdir(const QString& relative) { QDir().mkpath(path() + QLatin1Char('/') + relative); }
+
+    void meminfo(qint64 totalKB, qint64 availableKB)
+    {
+        write(QStringLiteral("proc/meminfo"),
+              QStringLiteral("MemTotal:       %1 kB\nMemFree:         1000 kB\n"
+                             "MemAvailable:   %2 kB\nBuffers:          100 kB\n")
+                  .arg(totalKB)
+                  .arg(availableKB)
+                  .toLatin1());
+    }
+    void dmiTable(const QByteArray& table)
+    {
+        write(QStringLiteral("sys/firmware/dmi/tables/DMI"), table);
+    }
+    // An EEPROM bound to `driver` ("ee1004", "spd5118") at "<bus>-00<address>".
+    void eeprom(const char* driver, int bus, int address, const QByteArray& image)
+    {
+        write(QStringLiteral("sys/bus/i2c/drivers/%1/%2/eeprom")
+                  .arg(QLatin1String(driver), i2cName(bus, address)),
+              image);
+    }
+    // hwmon<index> of `name`; `device` is an I2C device name or empty; temps as
+    // {"temp1", millidegrees text, label}.
+    void hwmon(int index, const QByteArray& name, const QString& device,
+               const QList<QStringList>& temps)
+    {
+        const QString folder = QStringLiteral("sys/class/hwmon/hwmon%1").arg(index);
+        write(folder + QStringLiteral("/name"), name + '\n');
+        if (!device.isEmpty()) {
+            mkdir(QStringLiteral("sys/devices/i2c/") + device);
+            QFile::link(path() + QStringLiteral("/sys/devices/i2c/") + device,
+                        path() + QLatin1Char('/') + folder + QStringLiteral("/device"));
+        }
+        for (const QStringList& t : temps) {
+            if (t.value(1) != QLatin1String("-"))
+                write(folder + QLatin1Char('/') + t.at(0) + QStringLiteral("_input"),
+                      t.at(1).toLatin1() + '\n');
+            if (!t.value(2).isEmpty())
+                write(folder + QLatin1Char('/') + t.at(0) + QStringLiteral("_label"),
+                      t.at(2).toLatin1() + '\n');
+        }
+    }
+    static QString i2cName(int bus, int address)
+    {
+        return QStringLiteral("%1-%2").arg(bus).arg(address, 4, 16, QLatin1Char('0'));
+    }
+
+private:
+    QTemporaryDir dir_;
+};
+
+} // namespace fixture

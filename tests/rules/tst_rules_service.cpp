@@ -1,0 +1,319 @@
+// The real service carrying the rules out, on a private session bus (run under
+// dbus-run-session) that also stands in for the system bus, with a fake root for its readings.
+
+#include "DesktopStandIns.h"
+#include "FixtureRoot.h"
+#include "RawClient.h"
+#include "SocketPath.h"
+
+#include <QProcess>
+#include <QtTest>
+
+namespace {
+
+// One norvalex-control run with its own runtime and config folders and a captured log.
+class Service
+{
+public:
+    explicit Service(const QStringList& arguments)
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime_.path());
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), config_.path());
+        env.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
+                   env.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS")));
+        env.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.debug=false"));
+        process_.setProcessEnvironment(env);
+        process_.setProcessChannelMode(QProcess::MergedChannels);
+        process_.start(QStringLiteral(NX_CONTROL_EXECUTABLE), arguments);
+    }
+    ~Service()
+    {
+        process_.terminate();
+        if (!process_.waitForFinished(5000))
+            process_.kill();
+        process_.waitForFinished(2000);
+    }
+    QString socketPath() const
+    {
+        return runtime_.path() + QLatin1Char('/') + QLatin1String(nxproto::kSocketFileName);
+    }
+    QString configPath() const { return config_.path(); }
+    QString log()
+    {
+        log_ += QString::fromUtf8(process_.readAll());
+        return log_;
+    }
+    bool connect(RawClient& client)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (clock.elapsed() < 10000) {
+            if (client.connectTo(socketPath()))
+                return true;
+            QTest::qWait(50);
+        }
+        return false;
+    }
+
+private:
+    QTemporaryDir runtime_;
+    QTemporaryDir config_;
+    QProcess process_;
+    QString log_;
+};
+
+nxproto::Request notification(const NotiEventData& noti)
+{
+    nxproto::Request request;
+    request.type = nxproto::MessageType::SetNotification;
+    request.noti = noti;
+    return request;
+}
+
+NotiEventData rulesOff()
+{
+    NotiEventData noti = {};
+    noti.changedItem = 4;
+    noti.loadingValue = 80;
+    noti.loadingColor = 0x123456;
+    noti.shutdownMemoryValue = 85;
+    noti.shutdownCPUValue = 90;
+    noti.fanSpeedValue = 70;
+    return noti;
+}
+
+void setCpuTemperature(fixture::Root& root, int milli)
+{
+    root.write(QStringLiteral("sys/class/hwmon/hwmon0/temp1_input"),
+               QByteArray::number(milli) + '\n');
+}
+
+} // namespace
+
+class TestRulesService : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void moduleSources();
+    void temperatureWarningAndShutdown();
+    void loadRuleColoursEveryLed();
+    void resumeAndAutostart();
+
+private:
+    NotificationServer notifications_;
+    LoginManager login_;
+};
+
+void TestRulesService::initTestCase()
+{
+    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
+        QSKIP("needs a private session bus: run under dbus-run-session");
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    QVERIFY(bus.isConnected());
+    QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &notifications_,
+                               QDBusConnection::ExportAllSlots));
+    QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.Notifications")));
+    QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/login1"), &login_,
+                               QDBusConnection::ExportAllSlots));
+    QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.login1")));
+}
+
+void TestRulesService::moduleSources()
+{
+    // Two DDR4-3200 modules the probe finds: reported with their part numbers.
+    fixture::Root machine;
+    machine.meminfo(16777216, 12582912);
+    fixture::Device d;
+    d.size = 8192;
+    d.configured = 3200;
+    d.part = QStringLiteral("CT8G4DFRA32A");
+    QByteArray table = fixture::memoryArray(2);
+    for (const char* locator : {"ChannelA-DIMM0", "ChannelB-DIMM0"}) {
+        d.locator = QLatin1String(locator);
+        table += fixture::memoryDevice(d, 0x11);
+    }
+    machine.dmiTable(table);
+    for (int address : {0x50, 0x51})
+        machine.eeprom("ee1004", 0, address,
+                       fixture::ddr4Spd(625, 13750, 13750, ((1u << 15) - 1) << 3));
+    {
+        Service service({QStringLiteral("--root"), machine.path()});
+        RawClient client;
+        QVERIFY(service.connect(client));
+        nxproto::Frame frame;
+        nxproto::HardwareInfo hardware;
+        QVERIFY(client.waitFor(nxproto::MessageType::Hardware, &frame, 5000));
+        QVERIFY(nxproto::decodeHardware(frame, hardware, nullptr));
+        QCOMPARE(hardware.memoryCount, 2);
+        QCOMPARE(hardware.channel, 2);
+        QCOMPARE(hardware.casLatency, 22.0);
+        QCOMPARE(hardware.physicalMemoryUsed, 4096);
+        QCOMPARE(hardware.memoryLoad, 25.0);
+        QCOMPARE(hardware.modules[1].modelCode, std::string("CT8G4DFRA32A"));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            service.log().contains(QStringLiteral("modules: real modules from the SMBIOS table")),
+            10000);
+    }
+    // The same machine forced to the simulation, and a machine without sources.
+    for (const QStringList& arguments :
+         {QStringList{QStringLiteral("--root"), machine.path(), QStringLiteral("--modules"),
+                      QStringLiteral("simulated")},
+          QStringList{QStringLiteral("--root"), QDir::tempPath() + QStringLiteral("/nx-none")}}) {
+        QDir().mkpath(QDir::tempPath() + QStringLiteral("/nx-none"));
+        Service service(arguments);
+        RawClient client;
+        QVERIFY(service.connect(client));
+        nxproto::Frame frame;
+        nxproto::HardwareInfo hardware;
+        QVERIFY(client.waitFor(nxproto::MessageType::Hardware, &frame, 5000));
+        QVERIFY(nxproto::decodeHardware(frame, hardware, nullptr));
+        QCOMPARE(hardware.memoryCount, 4);
+        QCOMPARE(hardware.modules[0].modelCode, std::string("KX44"));
+        QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("modules: simulated")),
+                                 10000);
+    }
+    QDir(QDir::tempPath() + QStringLiteral("/nx-none")).removeRecursively();
+}
+
+void TestRulesService::temperatureWarningAndShutdown()
+{
+    fixture::Root root;
+    root.meminfo(1000, 900);
+    root.hwmon(0, "coretemp", {}, {{"temp1", "60000", "Package id 0"}});
+    Service service({QStringLiteral("--root"), root.path(), QStringLiteral("--modules"),
+                     QStringLiteral("simulated")});
+    RawClient client;
+    QVERIFY(service.connect(client));
+    NotiEventData noti = rulesOff();
+    noti.shutdownCPUSwitch = true;
+    nxproto::StateMessage state;
+    QVERIFY(client.waitForState(&state, client.send(notification(noti)), 5000));
+
+    notifications_.shown.clear();
+    notifications_.closed.clear();
+    login_.powerOffs.clear();
+    setCpuTemperature(root, 95000);
+    QTRY_COMPARE_WITH_TIMEOUT(notifications_.shown.size(), 1, 10000);
+    const NotificationServer::Shown shown = notifications_.shown.first();
+    QCOMPARE(shown.summary, QStringLiteral("CPU temperature 95 °C is above 90 °C"));
+    QCOMPARE(shown.actions, (QStringList{QStringLiteral("shutdown"), QStringLiteral("Shut down")}));
+    QCOMPARE(shown.hints.value(QStringLiteral("urgency")).toInt(), 2);
+    // Still hot a few checks later: no second warning, and no power-off by itself.
+    QTest::qWait(2500);
+    QCOMPARE(notifications_.shown.size(), 1);
+    QVERIFY(login_.powerOffs.isEmpty());
+
+    // Another notification's action, or another action, does nothing.
+    notifications_.invoke(shown.id + 1, QStringLiteral("shutdown"));
+    notifications_.invoke(shown.id, QStringLiteral("default"));
+    notifications_.invoke(shown.id, QStringLiteral("shutdown"));
+    QTRY_COMPARE_WITH_TIMEOUT(login_.powerOffs, QList<bool>{true}, 10000);
+
+    // Falling 2 degrees below withdraws the warning; the next crossing warns again.
+    setCpuTemperature(root, 89000);
+    QTest::qWait(2500);
+    QVERIFY(notifications_.closed.isEmpty());
+    setCpuTemperature(root, 88000);
+    QTRY_COMPARE_WITH_TIMEOUT(notifications_.closed, QList<uint>{shown.id}, 10000);
+    setCpuTemperature(root, 91000);
+    QTRY_COMPARE_WITH_TIMEOUT(notifications_.shown.size(), 2, 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        service.log().contains(QStringLiteral("CPU temperature 91 °C is above 90 °C")), 10000);
+
+    // The fan rule is kept and logged, never carried out.
+    noti.fanSpeedSwitch = true;
+    QVERIFY(client.waitForState(&state, client.send(notification(noti)), 5000));
+    QCOMPARE(state.state.noti.fanSpeedSwitch, true);
+    QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("needs a fan-control program")),
+                             10000);
+}
+
+void TestRulesService::loadRuleColoursEveryLed()
+{
+    fixture::Root root;
+    root.meminfo(1000, 100); // 90 %
+    Service service({QStringLiteral("--root"), root.path(), QStringLiteral("--modules"),
+                     QStringLiteral("2"), QStringLiteral("--leds"), QStringLiteral("5")});
+    RawClient client;
+    QVERIFY(service.connect(client));
+    NotiEventData noti = rulesOff();
+    noti.loadingSwitch = true;
+    nxproto::StateMessage state;
+    QVERIFY(client.waitForState(&state, client.send(notification(noti)), 5000));
+    nxproto::Request preview;
+    preview.type = nxproto::MessageType::SetPreview;
+    preview.preview = true;
+    client.send(preview);
+
+    // Waits for a frame in which `check` holds.
+    auto waitForFrame = [&](auto check) {
+        QElapsedTimer clock;
+        clock.start();
+        nxproto::Frame frame;
+        nxproto::PreviewMessage message;
+        while (clock.elapsed() < 10000 &&
+               client.waitFor(nxproto::MessageType::Preview, &frame, 5000)) {
+            if (nxproto::decodePreview(frame, message, nullptr) && check(message))
+                return true;
+        }
+        return false;
+    };
+    const auto overridden = [](const nxproto::PreviewMessage& m) {
+        for (int slot = 0; slot < 2; ++slot) {
+            for (int led = 0; led < 5; ++led) {
+                if (m.colors[slot][led] != 0x123456)
+                    return false;
+            }
+        }
+        // Absent modules and LEDs past a module's count stay dark.
+        return m.colors[0][5] == 0 && m.colors[2][0] == 0;
+    };
+    QVERIFY(waitForFrame(overridden));
+    // The load falls: the modules' own lighting returns.
+    root.meminfo(1000, 600);
+    QVERIFY(waitForFrame([&](const nxproto::PreviewMessage& m) { return !overridden(m); }));
+    QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("memory load rule ended")),
+                             10000);
+}
+
+void TestRulesService::resumeAndAutostart()
+{
+    fixture::Root root;
+    Service service({QStringLiteral("--root"), root.path(), QStringLiteral("--modules"),
+                     QStringLiteral("simulated")});
+    RawClient client;
+    QVERIFY(service.connect(client));
+    nxproto::StateMessage state;
+    QVERIFY(client.waitForState(&state, 0, 5000));
+
+    // Going to sleep changes nothing; waking up sends the whole lighting out again.
+    QTest::qWait(500); // the service subscribes to logind before it listens, but let it settle
+    login_.prepareForSleep(true);
+    login_.prepareForSleep(false);
+    QVERIFY(client.waitForState(&state, 0, 10000));
+    QCOMPARE(state.changes, uint32_t(nxproto::ChangeAll));
+    QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("re-applying the lighting")),
+                             10000);
+
+    // "Start with the system" (on by default) keeps an autostart entry; off removes it.
+    const QString entry = service.configPath() + QStringLiteral("/autostart/norvalex-rgb.desktop");
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(entry), 10000);
+    QFile file(entry);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("norvalex-rgb\" --background\n"));
+    nxproto::Request setting;
+    setting.type = nxproto::MessageType::SetSetting;
+    setting.setting = state.state.setting;
+    setting.setting.autoRun = false;
+    QVERIFY(client.waitForState(&state, client.send(setting), 5000));
+    QVERIFY(!QFileInfo::exists(entry));
+    setting.setting.autoRun = true;
+    QVERIFY(client.waitForState(&state, client.send(setting), 5000));
+    QVERIFY(QFileInfo::exists(entry));
+}
+
+QTEST_GUILESS_MAIN(TestRulesService)
+#include "tst_rules_service.moc"

@@ -1,0 +1,145 @@
+/* Preloaded into the service by tests: makes the saves of the state file fail the way a full,
+ * broken or read-only disk makes them fail. The file named by NX_FAULT_CONTROL holds the mode,
+ * read on every call, so that a test can start and end a fault while the service runs:
+ *   enospc  writes fail with ENOSPC         short  writes stop half-way, then ENOSPC
+ *   eio     fsync fails with EIO            erofs  creating or renaming fails with EROFS
+ * Any other content, or no file, lets every call through. Only files whose path contains
+ * "control-state.json" are affected. */
+#define _GNU_SOURCE
+
+#include <dlfcn.h>
+#include <errno.h>
+#include <fcntl.h>
+#include <stdarg.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+static const char kTarget[] = "control-state.json";
+
+static void readMode(char* mode, size_t size)
+{
+    mode[0] = '\0';
+    const char* control = getenv("NX_FAULT_CONTROL");
+    if (!control)
+        return;
+    static int (*realOpen)(const char*, int, ...);
+    static ssize_t (*realRead)(int, void*, size_t);
+    if (!realOpen) {
+        realOpen = (int (*)(const char*, int, ...))dlsym(RTLD_NEXT, "open");
+        realRead = (ssize_t(*)(int, void*, size_t))dlsym(RTLD_NEXT, "read");
+    }
+    const int fd = realOpen(control, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    const ssize_t got = realRead(fd, mode, size - 1);
+    close(fd);
+    mode[got > 0 ? got : 0] = '\0';
+    for (char* end = mode + strlen(mode); end > mode && (end[-1] == '\n' || end[-1] == ' ');)
+        *--end = '\0';
+}
+
+static int isTargetFd(int fd)
+{
+    struct stat info;
+    if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
+        return 0;
+    char link[64];
+    char path[4096];
+    snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
+    const ssize_t n = readlink(link, path, sizeof path - 1);
+    if (n <= 0)
+        return 0;
+    path[n] = '\0';
+    return strstr(path, kTarget) != NULL;
+}
+
+static int faulty(const char* wanted)
+{
+    char mode[32];
+    readMode(mode, sizeof mode);
+    return strcmp(mode, wanted) == 0;
+}
+
+ssize_t write(int fd, const void* data, size_t size)
+{
+    static ssize_t (*realWrite)(int, const void*, size_t);
+    if (!realWrite)
+        realWrite = (ssize_t(*)(int, const void*, size_t))dlsym(RTLD_NEXT, "write");
+    if (isTargetFd(fd)) {
+        if (faulty("enospc")) {
+            errno = ENOSPC;
+            return -1;
+        }
+        if (faulty("short")) {
+            struct stat info;
+            if (fstat(fd, &info) == 0 && info.st_size > 0) {
+                errno = ENOSPC;
+                return -1;
+            }
+            return realWrite(fd, data, size / 2 > 0 ? size / 2 : size);
+        }
+    }
+    return realWrite(fd, data, size);
+}
+
+int fsync(int fd)
+{
+    static int (*realFsync)(int);
+    if (!realFsync)
+        realFsync = (int (*)(int))dlsym(RTLD_NEXT, "fsync");
+    if (isTargetFd(fd) && faulty("eio")) {
+        errno = EIO;
+        return -1;
+    }
+    return realFsync(fd);
+}
+
+static int openWith(const char* symbol, const char* path, int flags, mode_t mode)
+{
+    int (*realOpen)(const char*, int, ...) =
+        (int (*)(const char*, int, ...))dlsym(RTLD_NEXT, symbol);
+    if ((flags & O_CREAT) && strstr(path, kTarget) && faulty("erofs")) {
+        errno = EROFS;
+        return -1;
+    }
+    return realOpen(path, flags, mode);
+}
+
+int open(const char* path, int flags, ...)
+{
+    mode_t mode = 0;
+    if (flags & (O_CREAT | O_TMPFILE)) {
+        va_list args;
+        va_start(args, flags);
+        mode = (mode_t)va_arg(args, int);
+        va_end(args);
+    }
+    return openWith("open", path, flags, mode);
+}
+
+int open64(const char* path, int flags, ...)
+{
+    mode_t mode = 0;
+    if (flags & (O_CREAT | O_TMPFILE)) {
+        va_list args;
+        va_start(args, flags);
+        mode = (mode_t)va_arg(args, int);
+        va_end(args);
+    }
+    return openWith("open64", path, flags, mode);
+}
+
+int rename(const char* from, const char* to)
+{
+    static int (*realRename)(const char*, const char*);
+    if (!realRename)
+        realRename = (int (*)(const char*, const char*))dlsym(RTLD_NEXT, "rename");
+    if (strstr(to, kTarget) && faulty("erofs")) {
+        errno = EROFS;
+        return -1;
+    }
+    return realRename(from, to);
+}

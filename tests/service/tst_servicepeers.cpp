@@ -1,0 +1,338 @@
+// The service and the library among other processes: where they meet, peers that connect and
+// drop, stay silent, or never read.
+
+#include "RawClient.h"
+#include "ServiceProcess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLocalServer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <cstring>
+#include <memory>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace nxproto;
+
+namespace {
+
+// The most clients the service serves at once.
+constexpr int kServerLimit = 64;
+
+int modeOf(const QString& path)
+{
+    struct stat info {
+    };
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? int(info.st_mode & 07777)
+                                                                    : -1;
+}
+
+// Resident memory of a process, in kilobytes.
+long residentKb(qint64 pid)
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(pid));
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmRSS:"))
+            return line.mid(6).trimmed().split(' ').value(0).toLong();
+    }
+    return -1;
+}
+
+} // namespace
+
+class TestServicePeers : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> dir_;
+
+    QString path(const QString& name) const { return dir_->filePath(name); }
+
+    QProcessEnvironment environment(const QString& runtimeDir) const
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        if (runtimeDir.isEmpty())
+            env.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+        else
+            env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDir);
+        env.insert(QStringLiteral("TMPDIR"), path(QStringLiteral("tmp")));
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("config")));
+        return env;
+    }
+
+    // The library, in a process of its own, waits up to `waitMs` for the service's hardware
+    // data and reports what it got.
+    QByteArray runLibrary(const QProcessEnvironment& env, int waitMs)
+    {
+        QProcess probe;
+        probe.setProcessEnvironment(env);
+        probe.start(QStringLiteral(NX_DLOPEN_PROBE),
+                    {QStringLiteral(NX_LIGHTING_LIBRARY), QString::number(waitMs)});
+        if (!probe.waitForFinished(waitMs + 10000))
+            probe.kill();
+        return probe.readAllStandardOutput();
+    }
+
+    std::unique_ptr<ServiceProcess> startService(const QString& runtimeDir,
+                                                 const QString& socketDir)
+    {
+        auto service = std::make_unique<ServiceProcess>(runtimeDir, path(QStringLiteral("config")));
+        const QProcessEnvironment env = environment(runtimeDir);
+        for (const char* name : {"XDG_RUNTIME_DIR", "TMPDIR"})
+            service->setEnvironment(QLatin1String(name), env.value(QLatin1String(name)));
+        service->setSocketPath(socketDir + QLatin1Char('/') + QLatin1String(kSocketFileName));
+        return service;
+    }
+
+private slots:
+    void init()
+    {
+        std::signal(SIGPIPE, SIG_IGN);
+        dir_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(dir_->isValid());
+        QVERIFY(QDir().mkpath(path(QStringLiteral("tmp"))));
+        QVERIFY(QDir().mkpath(path(QStringLiteral("config"))));
+    }
+
+    // The service and the library settle on the same private folder, whatever XDG_RUNTIME_DIR
+    // is; the socket in it is the user's alone.
+    void runtimeFolderIsAgreed_data()
+    {
+        QTest::addColumn<QString>("variable");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("useFallback");
+        QTest::addColumn<bool>("foreign");
+        QTest::newRow("private") << "xdg" << 0700 << false << false;
+        QTest::newRow("unset") << "" << 0 << true << false;
+        QTest::newRow("open to others") << "xdg" << 0755 << true << false;
+        QTest::newRow("missing") << "absent/xdg" << 0 << true << false;
+        QTest::newRow("another user's") << "xdg" << 0700 << true << true;
+    }
+    void runtimeFolderIsAgreed()
+    {
+        QFETCH(QString, variable);
+        QFETCH(int, mode);
+        QFETCH(bool, useFallback);
+        QFETCH(bool, foreign);
+        if (foreign && ::geteuid() != 0)
+            QSKIP("needs to create a folder owned by another user");
+        const QString runtimeDir = variable.isEmpty() ? QString() : path(variable);
+        if (mode != 0) {
+            QVERIFY(QDir().mkpath(runtimeDir));
+            QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), mode_t(mode)) == 0);
+        }
+        if (foreign && ::chown(QFile::encodeName(runtimeDir).constData(), 4242, 4242) != 0)
+            QSKIP("this system does not let root give a folder away");
+        const QString expected =
+            useFallback ? path(QStringLiteral("tmp/runtime-")) +
+                              QString::fromStdString(runtimeDirectory()).section('-', -1)
+                        : runtimeDir;
+        auto service = startService(runtimeDir, expected);
+        QVERIFY2(service->start(), qPrintable(expected));
+        QCOMPARE(modeOf(expected), 0700);
+        QCOMPARE(modeOf(service->socketPath()), 0600);
+        const QByteArray output = runLibrary(environment(runtimeDir), 5000);
+        QVERIFY2(output.contains("memoryCount=4\n"), output.constData());
+    }
+
+    // A fallback folder that someone else made first is not used: the service refuses to
+    // start with the reason, and the library does not connect to what is there.
+    void foreignFallbackIsRefused()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs to create a folder owned by another user");
+        const QString squatted = path(QStringLiteral("tmp/runtime-")) +
+                                 QString::fromStdString(runtimeDirectory()).section('-', -1);
+        QVERIFY(QDir().mkpath(squatted));
+        if (::chown(QFile::encodeName(squatted).constData(), 4242, 4242) != 0)
+            QSKIP("this system does not let root give a folder away");
+        QVERIFY(::chmod(QFile::encodeName(squatted).constData(), 0700) == 0);
+        QLocalServer trap;
+        QVERIFY(trap.listen(squatted + QLatin1Char('/') + QLatin1String(kSocketFileName)));
+
+        QProcess service;
+        service.setProcessEnvironment(environment(QString()));
+        service.start(QStringLiteral(NX_CONTROL_EXECUTABLE), QStringList());
+        QVERIFY(service.waitForFinished(10000));
+        QCOMPARE(service.exitCode(), 1);
+        QVERIFY(service.readAllStandardError().contains("owned by uid 4242"));
+        const QByteArray output = runLibrary(environment(QString()), 1000);
+        QVERIFY2(output.contains("memoryCount=-1\n"), output.constData());
+        QVERIFY(!trap.hasPendingConnections());
+    }
+
+    // Each side refuses a peer running as another user, even when the socket's file lets it
+    // in: the service closes the connection unanswered, the library does not take the state a
+    // foreign listener offers.
+    void peersOfAnotherUserAreRefused()
+    {
+        if (::geteuid() != 0)
+            QSKIP("needs to run a peer as another user");
+        constexpr uid_t kOther = 4242;
+        const QString runtimeDir = path(QStringLiteral("runtime"));
+        QVERIFY(QDir().mkpath(runtimeDir));
+        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        const QByteArray socketPath =
+            QFile::encodeName(runtimeDir + QLatin1Char('/') + QLatin1String(kSocketFileName));
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::strncpy(address.sun_path, socketPath.constData(), sizeof address.sun_path - 1);
+
+        // A client of another uid, let through by a socket file opened up to everyone.
+        auto service = startService(runtimeDir, runtimeDir);
+        QVERIFY(service->start());
+        for (const QString& dir : {dir_->path(), runtimeDir})
+            QVERIFY(::chmod(QFile::encodeName(dir).constData(), 0755) == 0);
+        QVERIFY(::chmod(socketPath.constData(), 0666) == 0);
+        const pid_t client = ::fork();
+        if (client == 0) {
+            // Exit status: 0 no answer, 1 answered, 2 could not connect, 3 could not change uid.
+            const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+            if (::setgid(kOther) != 0 || ::setuid(kOther) != 0)
+                ::_exit(3);
+            if (::connect(fd, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0)
+                ::_exit(2);
+            pollfd wait{fd, POLLIN, 0};
+            char byte = 0;
+            ::_exit(::poll(&wait, 1, 3000) == 1 && ::read(fd, &byte, 1) == 1 ? 1 : 0);
+        }
+        int status = -1;
+        QCOMPARE(::waitpid(client, &status, 0), client);
+        QVERIFY(WIFEXITED(status));
+        if (WEXITSTATUS(status) == 3)
+            QSKIP("this system does not let root change its uid");
+        QCOMPARE(WEXITSTATUS(status), 0);
+        QVERIFY(service->terminate());
+
+        // A listener of another uid in the user's own folder, offering a whole service's worth.
+        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        StateMessage welcome;
+        HardwareInfo hardware;
+        hardware.memoryCount = 4;
+        const QByteArray offer = bytesOf(encodeState(welcome)) + bytesOf(encodeHardware(hardware));
+        ::unlink(socketPath.constData());
+        const int listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        QVERIFY(::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0);
+        const pid_t server = ::fork();
+        if (server == 0) {
+            // The credentials a connecting peer sees are those of listen().
+            if (::setgid(kOther) != 0 || ::setuid(kOther) != 0 || ::listen(listener, 8) != 0)
+                ::_exit(2);
+            for (;;) {
+                const int fd = ::accept(listener, nullptr, nullptr);
+                if (fd >= 0 && ::write(fd, offer.constData(), std::size_t(offer.size())) < 0)
+                    ::_exit(3);
+            }
+        }
+        ::close(listener);
+        const QByteArray output = runLibrary(environment(runtimeDir), 1500);
+        ::kill(server, SIGKILL);
+        QCOMPARE(::waitpid(server, &status, 0), server);
+        QVERIFY2(output.contains("memoryCount=-1\n"), output.constData());
+    }
+
+    // A peer that takes each connection and drops it is retried with growing pauses.
+    void droppedConnectionsBackOff()
+    {
+        const QString runtimeDir = path(QStringLiteral("runtime"));
+        QVERIFY(QDir().mkpath(runtimeDir));
+        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        QLocalServer dropper;
+        int connections = 0;
+        connect(&dropper, &QLocalServer::newConnection, this, [&]() {
+            while (QLocalSocket* socket = dropper.nextPendingConnection()) {
+                ++connections;
+                socket->abort();
+                socket->deleteLater();
+            }
+        });
+        QVERIFY(dropper.listen(runtimeDir + QLatin1Char('/') + QLatin1String(kSocketFileName)));
+        QProcess probe;
+        probe.setProcessEnvironment(environment(runtimeDir));
+        probe.start(QStringLiteral(NX_DLOPEN_PROBE),
+                    {QStringLiteral(NX_LIGHTING_LIBRARY), QStringLiteral("3000")});
+        QVERIFY(probe.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(probe.state() == QProcess::NotRunning, 15000);
+        qInfo("%d connections in 3 s", connections);
+        QVERIFY2(connections >= 3 && connections <= 12, qPrintable(QString::number(connections)));
+    }
+
+    // Silent connections are closed after a while, so they cannot hold every place; clients
+    // that never read are dropped before the service grows, and it serves the next one.
+    void idleAndNonReadingClients()
+    {
+        const QString runtimeDir = path(QStringLiteral("runtime"));
+        QVERIFY(QDir().mkpath(runtimeDir));
+        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        auto service = startService(runtimeDir, runtimeDir);
+        QVERIFY(service->start());
+
+        std::vector<std::unique_ptr<QLocalSocket>> silent;
+        for (int i = 0; i < kServerLimit; ++i) {
+            silent.push_back(std::make_unique<QLocalSocket>());
+            silent.back()->connectToServer(service->socketPath());
+            QVERIFY(silent.back()->waitForConnected(2000));
+        }
+        const auto served = [&]() {
+            RawClient client;
+            StateMessage state;
+            return client.connectTo(service->socketPath()) && client.waitForState(&state, 0, 500);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(served(), 10000);
+        silent.clear();
+
+        // Subscribed to the preview and never reading (a tiny read buffer keeps this process
+        // from reading for them), while another client changes colours.
+        Request hello;
+        hello.type = MessageType::Hello;
+        Request preview;
+        preview.type = MessageType::SetPreview;
+        preview.seq = 1;
+        preview.preview = true;
+        std::vector<std::unique_ptr<QLocalSocket>> stuck;
+        for (int i = 0; i < 60; ++i) {
+            stuck.push_back(std::make_unique<QLocalSocket>());
+            stuck.back()->setReadBufferSize(256);
+            stuck.back()->connectToServer(service->socketPath());
+            QVERIFY(stuck.back()->waitForConnected(2000));
+            hello.clientId = 1000 + uint64_t(i);
+            stuck.back()->write(bytesOf(encodeRequest(hello)) + bytesOf(encodeRequest(preview)));
+            stuck.back()->flush();
+        }
+        RawClient editor;
+        StateMessage state;
+        QVERIFY(editor.connectTo(service->socketPath()) && editor.waitForState(&state));
+        const long idleKb = residentKb(service->pid());
+        long peakKb = 0;
+        for (int round = 0; round < 300; ++round) {
+            Request colors;
+            colors.type = MessageType::SetColors;
+            colors.slot = round % kSlotCount;
+            colors.count = kLedCount;
+            colors.rgb[0] = COLORREF(round);
+            QVERIFY(editor.waitForState(&state, editor.send(colors), 5000));
+            peakKb = qMax(peakKb, residentKb(service->pid()));
+        }
+        qInfo("service resident memory %ld KiB, at most %ld KiB with 60 clients that do not read",
+              idleKb, peakKb);
+        QVERIFY2(peakKb > 0 && peakKb < 64 * 1024, qPrintable(QString::number(peakKb)));
+        stuck.clear();
+        RawClient next;
+        QVERIFY(next.connectTo(service->socketPath()) && next.waitForState(&state));
+        QCOMPARE(state.state.module(299 % kSlotCount).rgb[0], COLORREF(299));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestServicePeers)
+#include "tst_servicepeers.moc"

@@ -1,0 +1,337 @@
+// The service's state through faults, driven as a process through its socket: requests that
+// change nothing, kills in the middle of bursts, and saves that cannot complete.
+
+#include "RawClient.h"
+#include "ServiceProcess.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <functional>
+#include <memory>
+#include <sys/stat.h>
+
+using namespace nxproto;
+
+namespace {
+
+// Identifies one version of the file: every save replaces it by a new inode.
+QString fileVersion(const QString& path)
+{
+    struct stat info {
+    };
+    if (::stat(QFile::encodeName(path).constData(), &info) != 0)
+        return {};
+    return QStringLiteral("%1:%2").arg(info.st_ino).arg(info.st_mtim.tv_nsec);
+}
+
+} // namespace
+
+class TestServiceState : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> dir_;
+    std::unique_ptr<ServiceProcess> service_;
+
+    QString statePath() const
+    {
+        return dir_->filePath(QStringLiteral("norvalex/control-state.json"));
+    }
+
+    StateMessage connectAndReadState(RawClient& client, uint64_t clientId = 0)
+    {
+        StateMessage state;
+        if (!client.connectTo(service_->socketPath(), clientId) || !client.waitForState(&state))
+            qWarning("no state from the service");
+        return state;
+    }
+
+private slots:
+    void init()
+    {
+        std::signal(SIGPIPE, SIG_IGN);
+        dir_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(dir_->isValid());
+        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
+        QVERIFY(service_->start());
+    }
+
+    void cleanup() { service_.reset(); }
+
+    // A request that leaves the state as it was is acknowledged to its sender only: no change
+    // mask, no push to the others, no save. A real change still reaches everyone.
+    void unchangedRequestsAreQuiet()
+    {
+        RawClient watcher;
+        RawClient editor;
+        const StateMessage initial = connectAndReadState(watcher);
+        connectAndReadState(editor);
+        QTRY_VERIFY(QFileInfo::exists(statePath()));
+        const QString savedVersion = fileVersion(statePath());
+
+        Request noti;
+        noti.type = MessageType::SetNotification;
+        noti.noti = initial.state.noti;
+        Request colors;
+        colors.type = MessageType::SetColors;
+        colors.slot = 2;
+        colors.count = kLedCount;
+        const ModuleLighting& module = initial.state.module(2);
+        std::copy(std::begin(module.rgb), std::end(module.rgb), colors.rgb);
+        std::copy(std::begin(module.bright), std::end(module.bright), colors.bright);
+        colors.singleRGB = module.singleRGB;
+        colors.singleBright = module.singleBright;
+        Request profile;
+        profile.type = MessageType::SetProfile;
+        profile.profile = initial.state.profile;
+        Request setting;
+        setting.type = MessageType::SetSetting;
+        setting.setting = initial.state.setting;
+        Request lighting = lightingRequest(1, module.lightMode);
+        lighting.colorMode = initial.state.module(1).colorMode;
+        lighting.lightSpeed = initial.state.module(1).lightSpeed;
+        lighting.lightMode = initial.state.module(1).lightMode;
+        lighting.turnOff = initial.state.module(1).turnOff;
+
+        for (const Request& request : {noti, colors, profile, setting, lighting}) {
+            for (int repeat = 0; repeat < 20; ++repeat) {
+                StateMessage ack;
+                QVERIFY(editor.waitForState(&ack, editor.send(request)));
+                QCOMPARE(ack.changes, 0u);
+            }
+        }
+        QCOMPARE(watcher.countFor(MessageType::State, 300), 0);
+        QCOMPARE(fileVersion(statePath()), savedVersion);
+
+        noti.noti.loadingValue = initial.state.noti.loadingValue == 50 ? 60 : 50;
+        StateMessage ack;
+        QVERIFY(editor.waitForState(&ack, editor.send(noti)));
+        QCOMPARE(ack.changes, uint32_t(ChangeNotification));
+        StateMessage pushed;
+        QVERIFY(watcher.waitForState(&pushed));
+        QCOMPARE(pushed.changes, uint32_t(ChangeNotification));
+        QCOMPARE(pushed.state.noti.loadingValue, noti.noti.loadingValue);
+        QTRY_VERIFY(fileVersion(statePath()) != savedVersion);
+    }
+
+    // An edit lands on the profile it was made for, even after another client switched.
+    void editsLandOnTheirProfile()
+    {
+        RawClient editor;
+        RawClient switcher;
+        connectAndReadState(editor);
+        connectAndReadState(switcher);
+        Request profile;
+        profile.type = MessageType::SetProfile;
+        profile.profile = 2;
+        StateMessage state;
+        QVERIFY(switcher.waitForState(&state, switcher.send(profile)));
+        Request late = lightingRequest(3, 20);
+        late.profile = 0;
+        QVERIFY(editor.waitForState(&state, editor.send(late)));
+        QCOMPARE(state.state.profile, 2);
+        QCOMPARE(state.state.profiles[0][3].lightMode, 20);
+        QCOMPARE(state.state.profiles[2][3].lightMode, defaultModuleLighting().lightMode);
+        late.profile = kProfileCount;
+        editor.send(late);
+        Frame refusal;
+        QVERIFY(editor.waitFor(MessageType::Error, &refusal));
+    }
+
+    // SIGKILL at random moments of bursts of colour changes: every change the service
+    // acknowledged, even in the last bytes before the kill, is there after the restart, and the
+    // file is always one the service accepts.
+    void killsLoseNothingAcknowledged()
+    {
+        constexpr int kKills = 55;
+        QRandomGenerator random(QRandomGenerator::global()->generate());
+        uint32_t value = 0;
+        int sent = 0;
+        int acknowledged = 0;
+        for (int kill = 0; kill < kKills; ++kill) {
+            RawClient client;
+            connectAndReadState(client);
+            // seq -> (slot, value): each change gives its slot a new, larger value in LED 0.
+            QHash<uint32_t, QPair<int, uint32_t>> made;
+            uint32_t ackedValue[kSlotCount] = {};
+            const auto take = [&](const StateMessage& state) {
+                for (auto it = made.begin(); it != made.end();) {
+                    if (it.key() > state.ackSeq) {
+                        ++it;
+                        continue;
+                    }
+                    uint32_t& acked = ackedValue[it->first];
+                    acked = qMax(acked, it->second);
+                    ++acknowledged;
+                    it = made.erase(it);
+                }
+            };
+            const int burst = 20 + random.bounded(200);
+            for (int i = 0; i < burst; ++i) {
+                Request colors;
+                colors.type = MessageType::SetColors;
+                colors.slot = random.bounded(kSlotCount);
+                colors.count = 1;
+                colors.rgb[0] = ++value;
+                colors.bright[0] = 1.0f;
+                colors.singleBright = 1.0f;
+                made.insert(client.send(colors), qMakePair(colors.slot, value));
+                ++sent;
+                StateMessage state;
+                while (client.waitForState(&state, 0, 1))
+                    take(state);
+            }
+            QThread::usleep(random.bounded(3000));
+            service_->kill();
+            StateMessage late;
+            while (client.waitForState(&late, 0, 200))
+                take(late);
+
+            QVERIFY(service_->start());
+            RawClient after;
+            const StateMessage restarted = connectAndReadState(after);
+            for (int slot = 0; slot < kSlotCount; ++slot) {
+                const uint32_t kept = restarted.state.module(slot).rgb[0];
+                // Not lost, and not invented: an untouched slot keeps its default.
+                QVERIFY2(kept >= ackedValue[slot] && (kept <= value || ackedValue[slot] == 0),
+                         qPrintable(QStringLiteral("kill %1, slot %2: %3 kept, %4 acknowledged")
+                                        .arg(kill)
+                                        .arg(slot)
+                                        .arg(kept)
+                                        .arg(ackedValue[slot])));
+            }
+            const QStringList files = QDir(dir_->filePath(QStringLiteral("norvalex")))
+                                          .entryList(QDir::Files | QDir::Hidden | QDir::System);
+            QCOMPARE(files, QStringList{QStringLiteral("control-state.json")});
+        }
+        qInfo("%d kills, %d changes sent, %d acknowledged, 0 lost", kKills, sent, acknowledged);
+    }
+
+    // A save that cannot complete leaves the good file as it was and is not acknowledged; the
+    // service retries, acknowledges once the disk takes the state again, and logs one line for
+    // each failing episode and one for its end.
+    void failedSavesKeepTheGoodFile()
+    {
+        service_->kill();
+        const QString control = dir_->filePath(QStringLiteral("fault"));
+        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
+        service_->setEnvironment(QStringLiteral("LD_PRELOAD"), QStringLiteral(NX_FAULT_SHIM));
+        service_->setEnvironment(QStringLiteral("NX_FAULT_CONTROL"), control);
+        service_->setEnvironment(QStringLiteral("QT_LOGGING_RULES"),
+                                 QStringLiteral("*.debug=false"));
+        service_->captureErrors();
+        QVERIFY(service_->start());
+        RawClient client;
+        RawClient other;
+        connectAndReadState(client);
+        connectAndReadState(other);
+        StateMessage state;
+        QVERIFY(client.waitForState(&state, client.send(lightingRequest(0, 1))));
+        QVERIFY(other.waitForState(&state));
+        QFile file(statePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QByteArray good = file.readAll();
+        file.close();
+
+        int mode = 10;
+        for (const char* fault : {"enospc", "short", "eio", "erofs"}) {
+            QFile faultFile(control);
+            QVERIFY(faultFile.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            faultFile.write(fault);
+            faultFile.close();
+            const uint32_t seq = client.send(lightingRequest(0, mode));
+            // The others see the change at once; its acknowledgement waits for the disk.
+            QVERIFY2(other.waitForState(&state, 0, 5000), fault);
+            QCOMPARE(state.state.module(0).lightMode, mode);
+            QVERIFY2(!client.waitForState(&state, seq, 700), fault);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(file.readAll(), good);
+            file.close();
+
+            QVERIFY(QFile::remove(control));
+            QVERIFY2(client.waitForState(&state, seq, 15000), fault);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            good = file.readAll();
+            file.close();
+            QVERIFY(good.contains("\"lightMode\": " + QByteArray::number(mode)));
+            ++mode;
+        }
+        QVERIFY(service_->terminate());
+        const QString log = service_->readAllErrors();
+        QCOMPARE(log.count(QStringLiteral("cannot save the state")), 4);
+        QCOMPARE(log.count(QStringLiteral("state saved again")), 4);
+        QVERIFY2(log.contains(QStringLiteral("No space left on device")), qPrintable(log));
+
+        // What the last episode kept is what a restart finds.
+        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
+        QVERIFY(service_->start());
+        RawClient after;
+        QCOMPARE(connectAndReadState(after).state.module(0).lightMode, mode - 1);
+    }
+
+    // Whatever sits at the state path, the service starts at once with defaults, sets the thing
+    // aside and still obeys SIGTERM; the user's look-alike files stay; what it writes is
+    // private. A lock file that names no process does not keep it from starting.
+    void unusualFilesAtStart()
+    {
+        QVERIFY(service_->terminate());
+        const QString folder = QFileInfo(statePath()).absolutePath();
+        const QString lookAlike = statePath() + QStringLiteral(".a1B2c3");
+        QFile user(lookAlike);
+        QVERIFY(user.open(QIODevice::WriteOnly));
+        user.write("mine");
+        user.close();
+        const QByteArray path = QFile::encodeName(statePath());
+        const std::function<bool()> makers[] = {
+            [&] { return ::mkfifo(path.constData(), 0600) == 0; },
+            [&] { return ::symlink("/dev/zero", path.constData()) == 0; },
+            [&] { return QDir().mkdir(statePath()); },
+        };
+        for (const auto& make : makers) {
+            QVERIFY(QFile::remove(statePath()) || !QFileInfo::exists(statePath()));
+            QVERIFY(make());
+            QVERIFY(service_->start());
+            RawClient client;
+            QVERIFY(connectAndReadState(client).state == defaultControlState());
+            QVERIFY(service_->terminate());
+            QCOMPARE(service_->exitCode(), 0);
+            QVERIFY(QFileInfo(statePath()).isFile() && !QFileInfo(statePath()).isSymLink());
+            QCOMPARE(
+                QDir(folder)
+                    .entryList({QStringLiteral("*.unusable-*")}, QDir::AllEntries | QDir::System)
+                    .size(),
+                1);
+            for (const QString& name : QDir(folder).entryList({QStringLiteral("*.unusable-*")},
+                                                              QDir::AllEntries | QDir::System))
+                QVERIFY(QFile::remove(folder + QLatin1Char('/') + name) ||
+                        QDir(folder + QLatin1Char('/') + name).removeRecursively());
+        }
+        QVERIFY(QFileInfo::exists(lookAlike));
+        struct stat info {
+        };
+        QCOMPARE(::stat(path.constData(), &info), 0);
+        QCOMPARE(int(info.st_mode & 0777), 0600);
+        QCOMPARE(::stat(QFile::encodeName(folder).constData(), &info), 0);
+        QCOMPARE(int(info.st_mode & 0777), 0700);
+
+        const QString lock =
+            dir_->filePath(QStringLiteral("norvalex-mutex-NORVALEX_Control.exe.lock"));
+        for (const QByteArray& junk : {QByteArray(), QByteArray("not a lock\n\x01\x02")}) {
+            QFile lockFile(lock);
+            QVERIFY(lockFile.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            lockFile.write(junk);
+            lockFile.close();
+            QVERIFY2(service_->start(), junk.constData());
+            QVERIFY(service_->terminate());
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestServiceState)
+#include "tst_servicestate.moc"
