@@ -731,6 +731,7 @@ void Lighting_View::updateLanguage_Lighting()
     btn_Edit_Cancel->setText(tr("Cancel"));
     btn_Edit_Apply->setText(tr("Apply"));
     slotLayout->label_Preview->setText(tr("Preview"));
+    slotLayout->nameRows();
     for (int id = 0; id < ProfileCount; ++id)
         btn_Profile[id]->setText(tr("Profile") + QLatin1Char(' ') + QString::number(id + 1));
 

@@ -91,12 +91,18 @@ void SlotLayout::createRowButtons()
         button->setCheckable(true);
         Accessibility::makeTabReachable(button);
         button->setStyleSheet(QString::fromLatin1(kRowButtonStyle));
-        button->setAccessibleName(Lighting_View::tr("LED row %1").arg(QChar('A' + row)));
         button->resize(kRowButtonSize, kRowButtonSize);
         button->hide();
         s.rows[row] = button;
     }
     placeRowButtons();
+    nameRows();
+}
+
+void SlotLayout::nameRows()
+{
+    for (int row = 0; row < LedRows; ++row)
+        s.rows[row]->setAccessibleName(Lighting_View::tr("LED row %1").arg(QChar('A' + row)));
 }
 
 void SlotLayout::createEditButtons()

@@ -4,6 +4,7 @@
 #include "ColorNames.h"
 #include "Log.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -118,9 +119,21 @@ void Memory_RGB_View::setSlotNumber(int slot)
     slotNumber = slot;
     slotPosition = slot;
     btn_MemorySlot->setText(QString::number(slot + 1));
-    btn_MemorySlot->setAccessibleName(tr("Slot %1").arg(slot + 1));
+    nameButtons();
+}
+
+void Memory_RGB_View::nameButtons()
+{
+    btn_MemorySlot->setAccessibleName(tr("Slot %1").arg(slotNumber + 1));
     for (int i = 0; i < LedCount; ++i)
         nameLed(i);
+}
+
+void Memory_RGB_View::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && slotNumber >= 0)
+        nameButtons();
+    QWidget::changeEvent(event);
 }
 
 void Memory_RGB_View::setLEDNumber(int count)

@@ -64,11 +64,14 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void paintLed(int index, COLORREF color);
     // Names the LED button by its slot, row letter and the colour it shows.
     void nameLed(int index);
+    // Names the slot button and every LED button.
+    void nameButtons();
     void drawFrame(QPainter& painter) const;
     void drawConnector(QPainter& painter) const;
 

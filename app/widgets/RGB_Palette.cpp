@@ -149,3 +149,10 @@ void RGB_Palette::focusOutEvent(QFocusEvent* event)
     cursorMark->hide();
     QWidget::focusOutEvent(event);
 }
+
+void RGB_Palette::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        describeCursor();
+    QWidget::changeEvent(event);
+}

@@ -1,8 +1,10 @@
 #include "Accessibility.h"
 #include "AppGlobals.h"
 #include "Information_View.h"
+#include "Languages.h"
 #include "Lighting_View.h"
 #include "Main_View.h"
+#include "Memory_RGB_View.h"
 #include "Noti_View.h"
 #include "Setting_View.h"
 #include "SwitchButton.h"
@@ -13,6 +15,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStandardPaths>
+#include <QTranslator>
 #include <QtTest>
 
 #include <memory>
@@ -192,6 +195,52 @@ private slots:
         auto* greenSlider = child<QSlider>(page, "slider_G_Value");
         QTRY_VERIFY(greenSlider->hasFocus());
         QCOMPARE(greenSlider->value(), 40);
+    }
+
+    // A language switch renames what is named from code, not only the captions: window buttons,
+    // notification rows, LED rows, LEDs and their colours, the gauge.
+    void namesFollowTheLanguage()
+    {
+        frame->slot_show_Noti();
+        frame->slot_show_Lighting();
+        Lighting_View* page = frame->lighting_View;
+        Memory_RGB_View* strip = nullptr;
+        for (Memory_RGB_View* candidate : page->findChildren<Memory_RGB_View*>())
+            if (candidate->slotNumber == 1)
+                strip = candidate;
+        QVERIFY(strip);
+        QCOMPARE(nameOf(strip->btn_MemorySlot), QStringLiteral("Slot 2"));
+        QCOMPARE(nameOf(strip->btn_Led[2]).left(14), QStringLiteral("Slot 2, LED C,"));
+
+        const int german = Languages::codeForIndex(3) == QLatin1String("de") ? 3 : -1;
+        QVERIFY(german >= 0);
+        QTranslator translator;
+        QVERIFY(translator.load(Languages::fileForIndex(german)));
+        QCoreApplication::installTranslator(&translator);
+        currentLanguage = german;
+        frame->updateLanguage_MainView();
+
+        QCOMPARE(nameOf(frame->btn_Close), QStringLiteral("Schließen"));
+        QCOMPARE(nameOf(frame->btn_Min), QStringLiteral("Minimieren"));
+        QCOMPARE(nameOf(child<QPushButton>(page, "btn_LightMode")), QStringLiteral("Lichtmodus"));
+        QCOMPARE(nameOf(child<QSlider>(page, "slider_R_Value")), QStringLiteral("Rot"));
+        QCOMPARE(
+            nameOf(
+                page->findChildren<QPushButton*>(QStringLiteral("btn_SelectHorizontal")).first()),
+            QStringLiteral("LED-Reihe A"));
+        // Strips rename themselves on the language change the new translator posts.
+        QTRY_COMPARE(nameOf(strip->btn_MemorySlot), QStringLiteral("Steckplatz 2"));
+        QVERIFY2(nameOf(strip->btn_Led[2]).startsWith(QStringLiteral("Steckplatz 2, LED C, ")),
+                 qPrintable(nameOf(strip->btn_Led[2])));
+        QCOMPARE(nameOf(child<QLineEdit>(frame->noti_View, "lineEdit_Shutdown_Memory")),
+                 QStringLiteral("Speicher, fordert zum Herunterfahren des PCs auf, um Schäden zu "
+                                "vermeiden, Schwellenwert"));
+        auto* gauge =
+            frame->information_View->findChild<QWidget*>(QStringLiteral("gauge_MemoryLoad"));
+        QCOMPARE(nameOf(gauge), QStringLiteral("Last"));
+
+        QCoreApplication::removeTranslator(&translator);
+        currentLanguage = 0;
     }
 
     // The load gauge is a progress bar named "Load" whose value follows the data; unknown load
