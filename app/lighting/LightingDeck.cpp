@@ -79,8 +79,8 @@ void LightingDeck::createModeControls(QWidget* deck)
     btn_LightMode = new QPushButton(Lighting_View::tr("Flow"), deck);
     btn_LightMode->setObjectName(QStringLiteral("btn_LightMode"));
     btn_LightMode->setGeometry(kLightModeRect);
-    // Without focus of its own the button leaves the focus with the open list, so a second click
-    // closes the list instead of reopening it.
+    // Focus from Tab only: a click leaves the focus with the open list, so a second click closes
+    // the list instead of reopening it.
     Accessibility::makeTabReachable(btn_LightMode);
     btn_LightMode->setStyleSheet(QString::fromLatin1(kLightModeButtonStyle));
 

@@ -4,6 +4,8 @@
 #include "AppGlobals.h"
 #include "Log.h"
 #include "Platform.h"
+#include "PopupAnchor.h"
+#include "RGB_Palette.h"
 #include "SwitchButton.h"
 #include "Widget_Select_Palette.h"
 
@@ -228,6 +230,7 @@ void Noti_View::createWidgets()
     btn_Loading_Color = new QPushButton(widget_Grid);
     btn_Loading_Color->setFixedSize(kCaptionButtonSize);
     btn_Loading_Color->setCursor(Qt::PointingHandCursor);
+    Accessibility::makeTabReachable(btn_Loading_Color);
     setColorButton(notiEventData.loadingColor);
 
     label_Greater_Loading = createGreaterLabel();
@@ -239,9 +242,7 @@ void Noti_View::createWidgets()
     palette_Select = new Widget_Select_Palette(this);
     palette_Select->setFocusPolicy(Qt::ClickFocus);
     palette_Select->hide();
-    // A press on the swatch leaves the focus with an open pop-up, so that the release can
-    // close it instead of the focus change closing it and the release opening it again.
-    btn_Loading_Color->setFocusProxy(palette_Select);
+    PopupAnchor::tie(btn_Loading_Color, palette_Select);
     setRowTabOrder();
 }
 
@@ -341,6 +342,8 @@ void Noti_View::connectSignals()
 
     connect(btn_Loading_Color, &QPushButton::released, this, &Noti_View::slot_Loading_Color);
     connect(palette_Select, &Widget_Select_Palette::pressRGB, this, &Noti_View::slot_Palette_Color);
+    connect(palette_Select, &Widget_Select_Palette::keyboardFinished, this,
+            &Noti_View::returnFromPalette);
 }
 
 void Noti_View::applyTexts()
@@ -403,6 +406,7 @@ void Noti_View::applyAccessibleNames()
     btn_Unit_CPU->setAccessibleName(QStringLiteral("%1, %2").arg(cpu, unit));
     btn_Unit_FanSpeed->setAccessibleName(QStringLiteral("%1, %2").arg(fans, unit));
     btn_Loading_Color->setAccessibleName(QStringLiteral("%1, %2").arg(loading, tr("color")));
+    palette_Select->wheel()->setAccessibleName(btn_Loading_Color->accessibleName());
 }
 
 void Noti_View::updateLanguage_Noti()
@@ -486,12 +490,16 @@ void Noti_View::slot_Loading_Color()
 {
     qCDebug(lcPanel) << "Noti_View::slot_Loading_Color" << palette_Select->isHidden();
     if (palette_Select->isHidden()) {
+        // The swatch takes the focus only from the keyboard.
+        const bool byKey = btn_Loading_Color->hasFocus();
         const QRect swatch = btn_Loading_Color->geometry();
         palette_Select->move(widget_Grid->x() + swatch.x(),
                              widget_Grid->y() + swatch.y() + swatch.height());
         palette_Select->raise();
         palette_Select->setFocus(Qt::OtherFocusReason);
         palette_Select->show();
+        if (byKey)
+            palette_Select->wheel()->showCursor();
     } else {
         closePalette();
     }
@@ -503,6 +511,14 @@ void Noti_View::closePalette()
 {
     setFocus(Qt::OtherFocusReason);
     palette_Select->hide();
+}
+
+void Noti_View::returnFromPalette()
+{
+    btn_Loading_Color->setFocusProxy(nullptr);
+    if (palette_Select->isVisible())
+        closePalette();
+    btn_Loading_Color->setFocus(Qt::TabFocusReason);
 }
 
 void Noti_View::slot_Palette_Color(COLORREF color)

@@ -62,6 +62,8 @@ private:
     void updateWidgetsFromData();
     void setColorButton(COLORREF color);
     void closePalette();
+    // After a pick or Escape in the pop-up, the focus goes back to the swatch.
+    void returnFromPalette();
     void sendChanged(int changedItem);
 
     QRect underlineFor(const QWidget* widget) const;

@@ -133,14 +133,26 @@ void RGB_Palette::keyPressEvent(QKeyEvent* event)
     }
     // At the rim the cursor stays where it is.
     moveCursor(cursor + delta);
+    showCursor();
     event->accept();
+}
+
+void RGB_Palette::showCursor()
+{
+    if (!hasFocus())
+        return;
+    moveCursor(cursor);
+    cursorMark->raise();
+    cursorMark->show();
 }
 
 void RGB_Palette::focusInEvent(QFocusEvent* event)
 {
-    moveCursor(cursor);
-    cursorMark->raise();
-    cursorMark->show();
+    // Focus given for a mouse click shows no cursor until an arrow key is pressed.
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+        reason == Qt::ShortcutFocusReason)
+        showCursor();
     QWidget::focusInEvent(event);
 }
 

@@ -9,7 +9,8 @@ class QLabel;
 
 // The colour wheel of the lighting page: a click inside the disc emits the picture's pixel under
 // the pointer. From the keyboard, the arrow keys move a cursor inside the disc and Space or Return
-// emit the colour under it; the cursor shows only while the wheel has the focus.
+// emit the colour under it. The cursor shows while the wheel has the focus from the keyboard, or
+// once an arrow key moved it.
 class RGB_Palette : public QWidget
 {
     Q_OBJECT
@@ -23,6 +24,8 @@ public:
     static bool pickColour(const QPoint& click, const QSize& widgetSize, COLORREF* colour);
 
     QPoint keyboardCursor() const { return cursor; }
+    // Shows the keyboard cursor now, while the wheel has the focus.
+    void showCursor();
 
 signals:
     void pressRGB(COLORREF color);

@@ -8,6 +8,7 @@
 #include "Noti_View.h"
 #include "Setting_View.h"
 #include "SwitchButton.h"
+#include "Widget_Light_Mode_View.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -241,6 +242,59 @@ private slots:
 
         QCoreApplication::removeTranslator(&translator);
         currentLanguage = 0;
+    }
+
+    // The light-mode list by keyboard: Space on the mode button opens it with the current mode
+    // highlighted, the arrows and Return pick a mode, Escape closes it; either way the focus is
+    // back on the mode button. A mouse user sees no highlight.
+    void lightModeListByKeyboard()
+    {
+        frame->slot_show_Lighting();
+        frame->show();
+        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+        Lighting_View* page = frame->lighting_View;
+        auto* mode = child<QPushButton>(page, "btn_LightMode");
+        auto* list = page->findChild<Widget_Light_Mode_View*>();
+        QVERIFY(list);
+        QSignalSpy picked(list, &Widget_Light_Mode_View::selectLightMode);
+
+        // Tab reaches the mode button (Qt's chain skips a widget with a focus proxy).
+        QWidget* before = nullptr;
+        for (QWidget* widget : page->findChildren<QWidget*>())
+            if (widget != mode && nextTabStop(widget) == mode)
+                before = widget;
+        QVERIFY(before);
+        before->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(before->hasFocus());
+        QTest::keyClick(before, Qt::Key_Tab);
+        QTRY_VERIFY(mode->hasFocus());
+        QTest::keyClick(mode, Qt::Key_Space);
+        QTRY_VERIFY(list->isVisible() && list->hasFocus());
+        QVERIFY(list->highlighted() >= 0);
+        const int first = list->highlighted();
+        QTest::keyClick(list, Qt::Key_Down);
+        const int chosen = list->highlighted();
+        QVERIFY(chosen != first);
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(picked.count(), 1);
+        QCOMPARE(picked.at(0).at(0).toInt(), chosen);
+        QTRY_VERIFY(list->isHidden());
+        QTRY_VERIFY(mode->hasFocus());
+
+        QTest::keyClick(mode, Qt::Key_Space);
+        QTRY_VERIFY(list->isVisible() && list->hasFocus());
+        QTest::keyClick(list, Qt::Key_Escape);
+        QTRY_VERIFY(list->isHidden());
+        QTRY_VERIFY(mode->hasFocus());
+        QCOMPARE(picked.count(), 1);
+
+        // The mouse opens it without a highlight, and a second click closes it.
+        frame->setFocus(Qt::OtherFocusReason);
+        QTest::mouseClick(mode, Qt::LeftButton);
+        QTRY_VERIFY(list->isVisible() && list->hasFocus());
+        QCOMPARE(list->highlighted(), -1);
+        QTest::mouseClick(mode, Qt::LeftButton);
+        QTRY_VERIFY(list->isHidden());
     }
 
     // The load gauge is a progress bar named "Load" whose value follows the data; unknown load
