@@ -213,6 +213,7 @@ void Main_View::createWindowButtons()
     Accessibility::makeTabReachable(btn_Min);
     connect(btn_Min, &QPushButton::released, this, &QWidget::showMinimized);
     applyMenuTexts();
+    placeWindowButtonsLast();
 }
 
 void Main_View::applyMenuTexts()
@@ -262,6 +263,21 @@ void Main_View::raiseChrome()
         btn_Min->raise();
     if (loading_View)
         loading_View->raise();
+    placeWindowButtonsLast();
+}
+
+void Main_View::placeWindowButtonsLast()
+{
+    if (!btn_Close || !btn_Min)
+        return;
+    // The focus chain is a ring in which new pages join at no fixed place. Minimise, close and
+    // the menu entries are put one after another behind the logo, which takes no focus; so Tab
+    // runs menu, page, minimise, close and back to the menu. (A container as anchor would not
+    // do: Qt places after its last focusable child.)
+    QWidget* const order[] = {label_Logo,   btn_Min,  btn_Close,  btn_Info,
+                              btn_Lighting, btn_Noti, btn_Setting};
+    for (size_t i = 1; i < sizeof(order) / sizeof(order[0]); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 void Main_View::createInformationPage()

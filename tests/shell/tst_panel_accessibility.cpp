@@ -54,6 +54,18 @@ QWidget* nextTabStop(QWidget* widget)
     return nullptr;
 }
 
+// The widget Shift+Tab moves to from `widget`.
+QWidget* previousTabStop(QWidget* widget)
+{
+    for (QWidget* previous = widget->previousInFocusChain(); previous != widget;
+         previous = previous->previousInFocusChain()) {
+        if ((previous->focusPolicy() & Qt::TabFocus) && previous->isEnabled() &&
+            previous->isVisibleTo(previous->window()))
+            return previous;
+    }
+    return nullptr;
+}
+
 void press(QObject* object)
 {
     QAccessibleActionInterface* actions = accessible(object)->actionInterface();
@@ -295,6 +307,35 @@ private slots:
         QCOMPARE(list->highlighted(), -1);
         QTest::mouseClick(mode, Qt::LeftButton);
         QTRY_VERIFY(list->isHidden());
+    }
+
+    // On every page Tab runs menu, page, minimise, close and back to the menu, also for pages
+    // created after the window buttons.
+    void windowButtonsComeLast()
+    {
+        void (Main_View::*const pages[])() = {
+            &Main_View::slot_show_Info, &Main_View::slot_show_Lighting, &Main_View::slot_show_Noti,
+            &Main_View::slot_show_Setting, &Main_View::slot_show_Lighting};
+        for (const auto page : pages) {
+            (frame.get()->*page)();
+            QCOMPARE(nextTabStop(frame->btn_Min), frame->btn_Close);
+            QCOMPARE(nextTabStop(frame->btn_Close), frame->btn_Info);
+            QWidget* shown = nullptr;
+            for (QWidget* candidate : {static_cast<QWidget*>(frame->information_View),
+                                       static_cast<QWidget*>(frame->lighting_View),
+                                       static_cast<QWidget*>(frame->noti_View),
+                                       static_cast<QWidget*>(frame->setting_View)})
+                if (candidate && candidate->isVisibleTo(frame.get()))
+                    shown = candidate;
+            QVERIFY(shown);
+            QWidget* beforeMin = previousTabStop(frame->btn_Min);
+            // The information page holds nothing to operate.
+            const bool pageBefore = shown == frame->information_View
+                                        ? beforeMin == frame->btn_Setting
+                                        : shown->isAncestorOf(beforeMin);
+            QVERIFY2(pageBefore,
+                     qPrintable(beforeMin ? beforeMin->objectName() : QStringLiteral("none")));
+        }
     }
 
     // The load gauge is a progress bar named "Load" whose value follows the data; unknown load
