@@ -1,6 +1,7 @@
 #include "Widget_Preview.h"
 
 #include "Log.h"
+#include "PreviewDemand.h"
 
 #include <QLinearGradient>
 #include <QMetaObject>
@@ -62,7 +63,10 @@ int leftMargin(int slotCount)
 
 Widget_Preview::Widget_Preview(QWidget* parent) : QWidget(parent) {}
 
-Widget_Preview::~Widget_Preview() = default;
+Widget_Preview::~Widget_Preview()
+{
+    PreviewDemand::instance().setShown(this, false);
+}
 
 void Widget_Preview::setSlotNum(int n)
 {
@@ -133,6 +137,18 @@ void Widget_Preview::updatePreviewList(QList<COLORREF*> list)
     else
         QMetaObject::invokeMethod(
             this, [this] { update(); }, Qt::QueuedConnection);
+}
+
+void Widget_Preview::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    PreviewDemand::instance().setShown(this, true);
+}
+
+void Widget_Preview::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    PreviewDemand::instance().setShown(this, false);
 }
 
 void Widget_Preview::paintEvent(QPaintEvent* /*event*/)
