@@ -149,8 +149,11 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&scene.page));
         for (int step = 1; step <= 3; ++step) {
             scene.paintFrame(step);
-            // One module alone changes: only its neighbourhood is painted.
-            scene.colors[3][4] ^= 0x00FFFFFFu;
+            QCoreApplication::processEvents();
+            // One module alone changes: only its neighbourhood is painted, over and under the
+            // ornaments of its neighbours.
+            scene.colors[2][4] ^= 0x00FFFFFFu;
+            scene.colors[2][0] ^= 0x00FFFFFFu;
             QList<COLORREF*> list;
             for (auto& module : scene.colors)
                 list << module;
