@@ -9,7 +9,6 @@
 
 #include <QLoggingCategory>
 #include <QRandomGenerator>
-#include <QTime>
 
 #include <algorithm>
 
@@ -258,10 +257,10 @@ void ControlService::renderFrame()
     nxfx::SceneInput scene;
     scene.seconds = double(clock_.elapsed()) / 1000.0;
     scene.seed = seed_;
-    const QTime now = QTime::currentTime();
-    scene.hour = now.hour();
-    scene.minute = now.minute();
-    scene.second = now.second() + now.msec() / 1000.0;
+    const LocalClock::TimeOfDay now = localClock_.now();
+    scene.hour = now.hour;
+    scene.minute = now.minute;
+    scene.second = now.second;
     if (EffectRenderer::wantsMusic(state_, monitor_->info())) {
         if (!music_.started())
             qCInfo(lcService) << "Party: listening for the desktop's music";
