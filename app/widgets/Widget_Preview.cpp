@@ -204,21 +204,24 @@ void Widget_Preview::drawFrame(QPainter& painter, const QRect& exposed, int slot
                               exposed.size() * frame.devicePixelRatio()));
 }
 
-void Widget_Preview::drawBar(QPainter& painter, int entry, int x, const COLORREF* colors) const
+void Widget_Preview::drawBar(QPainter& painter, int entry, int x, const COLORREF* colors)
 {
+    // The rectangle lies on whole pixels: filled without antialiasing it covers the same pixels,
+    // at a fraction of the cost. The outline is stroked over it as before.
+    const QRect bar(x, BarTop, BarWidth, BarHeight);
     if (entry < moduleNum) {
         qCDebug(lcPanel) << "ledNum[" << entry << "] = " << std::max(ledNum[entry], 1);
         QLinearGradient fill(QPointF(0, BarTop), QPointF(0, BarGradientBottom));
         const QGradientStops stops = gradientStops(colors, ledNum[entry]);
         if (!stops.isEmpty())
             fill.setStops(stops);
-        painter.setPen(EmptyBarColor);
-        painter.setBrush(fill);
+        painter.fillRect(bar, fill);
     } else {
-        painter.setPen(EmptyBarColor);
-        painter.setBrush(EmptyBarColor);
+        painter.fillRect(bar, EmptyBarColor);
     }
-    painter.drawRect(x, BarTop, BarWidth, BarHeight);
+    painter.setPen(EmptyBarColor);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(bar);
 }
 
 void Widget_Preview::drawOrnament(QPainter& painter, int x, const COLORREF* colors)

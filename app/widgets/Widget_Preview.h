@@ -45,7 +45,7 @@ protected:
 
 private:
     void drawFrame(QPainter& painter, const QRect& exposed, int slotCount);
-    void drawBar(QPainter& painter, int entry, int x, const COLORREF* colors) const;
+    void drawBar(QPainter& painter, int entry, int x, const COLORREF* colors);
     void drawOrnament(QPainter& painter, int x, const COLORREF* colors);
     // What the bar standing at x and its ornament may touch.
     QRect barArea(int x) const;
