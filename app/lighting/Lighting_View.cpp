@@ -1,5 +1,6 @@
 #include "Lighting_View.h"
 
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "ColorEntry.h"
 #include "LightModeTable.h"
@@ -8,6 +9,7 @@
 #include "Log.h"
 #include "Memory_RGB_View.h"
 #include "Palette_draw_rect.h"
+#include "PopupAnchor.h"
 #include "RGB_Palette.h"
 #include "SlotLayout.h"
 #include "StripSelection.h"
@@ -68,9 +70,7 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
     widget_Light_Mode_View->move(kLightModeListRect.topLeft());
     widget_Light_Mode_View->setLightModeMap(lightModeMap);
     widget_Light_Mode_View->hide();
-    // A click on the mode button must not pass the focus on to the page while the list holds
-    // it: the list would close and the click would open it again.
-    deck->btn_LightMode->setFocusProxy(widget_Light_Mode_View);
+    PopupAnchor::tie(deck->btn_LightMode, widget_Light_Mode_View);
 
     palette_draw_rect = new Palette_draw_rect(this);
     palette_draw_rect->setGeometry(0, 0, kPageWidth, kPageHeight);
@@ -119,7 +119,7 @@ void Lighting_View::createProfileButtons()
             new QPushButton(tr("Profile") + QLatin1Char(' ') + QString::number(id + 1), this);
         button->setObjectName(QStringLiteral("btn_Profile%1").arg(id));
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
+        Accessibility::makeTabReachable(button);
         button->setGeometry(
             QRect(QPoint(kProfileX, kProfileTop + id * kProfilePitch), kProfileSize));
         buttonGroup_Profile->addButton(button, id);
@@ -150,6 +150,8 @@ void Lighting_View::connectControls()
 
     connect(widget_Light_Mode_View, &Widget_Light_Mode_View::selectLightMode, this,
             &Lighting_View::currentLightModeIndex);
+    connect(widget_Light_Mode_View, &Widget_Light_Mode_View::keyboardFinished, this,
+            &Lighting_View::returnFromModeList);
     connect(deck->comboBox_ColorMode, qOverload<int>(&QComboBox::activated), this,
             &Lighting_View::currentColorModeIndex);
     connect(deck->comboBox_LightSpeed, qOverload<int>(&QComboBox::activated), this,
@@ -543,14 +545,26 @@ void Lighting_View::slotLightMode()
 {
     qCDebug(lcPanel) << "Lighting_View::slotLightMode";
     if (widget_Light_Mode_View->isHidden()) {
+        // The mode button takes the focus only from the keyboard.
+        const bool byKey = deck->btn_LightMode->hasFocus();
         widget_Light_Mode_View->show();
         widget_Light_Mode_View->raise();
         widget_Light_Mode_View->setFocus(Qt::PopupFocusReason);
+        if (byKey)
+            widget_Light_Mode_View->highlight(currentLightMode);
     } else if (widget_Light_Mode_View->hasFocus()) {
         widget_Light_Mode_View->clearFocus();
     } else {
         widget_Light_Mode_View->hide();
     }
+}
+
+void Lighting_View::returnFromModeList()
+{
+    // Taking the focus back closes the list.
+    deck->btn_LightMode->setFocusProxy(nullptr);
+    deck->btn_LightMode->setFocus(Qt::TabFocusReason);
+    widget_Light_Mode_View->hide();
 }
 
 void Lighting_View::slot_Profile()
@@ -725,10 +739,12 @@ void Lighting_View::updateLanguage_Lighting()
     if (!deck->btn_LightMode->text().isEmpty())
         deck->btn_LightMode->setText(lightModeName(currentLightMode));
     deck->retranslate();
+    deck->colorEntry->nameChannels();
     btn_Edit->setText(tr("Edit"));
     btn_Edit_Cancel->setText(tr("Cancel"));
     btn_Edit_Apply->setText(tr("Apply"));
     slotLayout->label_Preview->setText(tr("Preview"));
+    slotLayout->nameRows();
     for (int id = 0; id < ProfileCount; ++id)
         btn_Profile[id]->setText(tr("Profile") + QLatin1Char(' ') + QString::number(id + 1));
 

@@ -104,6 +104,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+private slots:
+    void returnFromModeList();
+
 private:
     void buildLightModeMap();
     void createProfileButtons();

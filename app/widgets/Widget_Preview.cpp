@@ -1,5 +1,7 @@
 #include "Widget_Preview.h"
 
+#include "AccessibleDisplay.h"
+#include "ColorNames.h"
 #include "Log.h"
 #include "PreviewDemand.h"
 
@@ -56,7 +58,10 @@ int leftMargin(int slotCount)
 
 } // namespace
 
-Widget_Preview::Widget_Preview(QWidget* parent) : QWidget(parent) {}
+Widget_Preview::Widget_Preview(QWidget* parent) : QWidget(parent)
+{
+    AccessibleDisplay::expose(this, QAccessible::Graphic);
+}
 
 Widget_Preview::~Widget_Preview()
 {
@@ -169,6 +174,33 @@ void Widget_Preview::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
     PreviewDemand::instance().setShown(this, false);
+}
+
+QString Widget_Preview::accessibleValue() const
+{
+    COLORREF colors[MaxSlots][MaxLeds];
+    {
+        QMutexLocker locker(&colorMutex);
+        std::memcpy(colors, previewColor, sizeof colors);
+    }
+    QStringList bars;
+    const int shown = std::min(slotNum, MaxSlots);
+    for (int i = 0; i < shown; ++i) {
+        const QString slot = tr("Slot %1").arg(slotIndex[i] + 1);
+        if (i >= moduleNum) {
+            bars << tr("%1: empty").arg(slot);
+            continue;
+        }
+        // Neighbouring LEDs of one colour are named once.
+        QStringList names;
+        for (int k = 0; k < std::min(std::max(ledNum[i], 1), MaxLeds); ++k) {
+            const QString name = ColorNames::describe(toColor(colors[i][k]));
+            if (names.isEmpty() || names.last() != name)
+                names << name;
+        }
+        bars << QStringLiteral("%1: %2").arg(slot, names.join(QStringLiteral(", ")));
+    }
+    return bars.join(QStringLiteral("; "));
 }
 
 void Widget_Preview::paintEvent(QPaintEvent* event)
