@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include <sys/socket.h>
+
 Q_LOGGING_CATEGORY(lcClient, "norvalex.control.client")
 
 namespace {
@@ -48,7 +50,19 @@ void ClientConnection::send(const std::vector<uint8_t>& frame, bool droppable)
         abort();
         return;
     }
-    socket_->write(reinterpret_cast<const char*>(frame.data()), qint64(frame.size()));
+    const char* bytes = reinterpret_cast<const char*>(frame.data());
+    qint64 sent = 0;
+    // With nothing queued the frame goes straight to the socket: Qt's buffered write would
+    // wake the event loop twice and poll once more for every frame.
+    if (queued == 0) {
+        const ssize_t written = ::send(int(socket_->socketDescriptor()), bytes, frame.size(),
+                                       MSG_DONTWAIT | MSG_NOSIGNAL);
+        if (written > 0)
+            sent = written;
+    }
+    // The rest, or a failure for the socket to notice, goes the buffered way.
+    if (sent < qint64(frame.size()))
+        socket_->write(bytes + sent, qint64(frame.size()) - sent);
 }
 
 void ClientConnection::close()

@@ -11,7 +11,6 @@
 
 #include <QLoggingCategory>
 #include <QRandomGenerator>
-#include <QTime>
 
 #include <algorithm>
 
@@ -285,10 +284,10 @@ void ControlService::renderFrame()
     nxfx::SceneInput scene;
     scene.seconds = double(clock_.elapsed()) / 1000.0;
     scene.seed = seed_;
-    const QTime now = QTime::currentTime();
-    scene.hour = now.hour();
-    scene.minute = now.minute();
-    scene.second = now.second() + now.msec() / 1000.0;
+    const LocalClock::TimeOfDay now = localClock_.now();
+    scene.hour = now.hour;
+    scene.minute = now.minute;
+    scene.second = now.second;
     const nxproto::HardwareInfo hardware = hardwareInfo();
     if (EffectRenderer::wantsMusic(state_, hardware)) {
         if (!music_.started())

@@ -4,6 +4,7 @@
 #include "ControlState.h"
 #include "EffectRenderer.h"
 #include "HardwareMonitor.h"
+#include "LocalClock.h"
 #include "MusicCapture.h"
 #include "RuleActions.h"
 #include "ServiceOptions.h"
@@ -114,6 +115,7 @@ private:
     int failedSaves_ = 0; // in the current episode of failures
     QTimer frameTimer_;
     QElapsedTimer clock_;
+    LocalClock localClock_;
     uint32_t frameNumber_ = 0;
     uint64_t seed_ = 0;
     std::map<int, FrameSink> sinks_;

@@ -7,6 +7,7 @@
 #include "Log.h"
 #include "Main_View.h"
 #include "Platform.h"
+#include "PreviewDemand.h"
 #include "Startup.h"
 #include "Widget_LocationPolicy.h"
 
@@ -69,6 +70,10 @@ QXRGBMemory::QXRGBMemory(const QString& libraryPath, QWidget* parent)
     m_pollTimer = new QTimer(this);
     connect(m_pollTimer, &QTimer::timeout, this, &QXRGBMemory::requestUpdateData);
     m_pollTimer->start(kPollIntervalMs);
+
+    // A preview coming on screen shows the colours of now, not those of its last frame.
+    connect(&PreviewDemand::instance(), &PreviewDemand::wanted, this,
+            &QXRGBMemory::requestUpdate_SoftwareRGB, Qt::QueuedConnection);
 
     // The preview signals are already among the frame's connections; a second pair would deliver
     // every preview frame twice.
@@ -187,6 +192,9 @@ void QXRGBMemory::onLightModeEvent(int32_t value)
 
 void QXRGBMemory::onPreviewEvent()
 {
+    // Frames that no preview on screen would show cost nothing, unless their lines are logged.
+    if (!PreviewDemand::instance().isWanted() && !lcPanel().isDebugEnabled())
+        return;
     qCDebug(lcPanel) << "receivePreview_Event"
                      << QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
     runOnGuiThread(s_previewPending, &QXRGBMemory::requestUpdate_SoftwareRGB);

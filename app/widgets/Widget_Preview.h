@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PreviewLayers.h"
 #include "norvalex_lighting.h"
 
 #include <QGradientStops>
@@ -42,11 +43,17 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
-    void drawFrame(QPainter& painter, int slotCount) const;
-    void drawBar(QPainter& painter, int entry, int x, const COLORREF* colors) const;
-    void drawOrnament(QPainter& painter, int x, const COLORREF* colors) const;
+    void drawFrame(QPainter& painter, const QRect& exposed, int slotCount);
+    void drawBar(QPainter& painter, int entry, int x, const COLORREF* colors);
+    void drawOrnament(QPainter& painter, int x, const COLORREF* colors);
+    // What the bar standing at x and its ornament may touch.
+    QRect barArea(int x) const;
+    // Repaints the bars of the entries flagged in changedEntries since the last call.
+    void updateChangedBars();
 
     mutable QMutex colorMutex;
     COLORREF previewColor[MaxSlots][MaxLeds] = {};
@@ -54,4 +61,6 @@ private:
     int ledNum[MaxSlots] = {};
     int slotIndex[MaxSlots] = {0, 1, 2, 3, 4, 5, 6, 7};
     int moduleNum = 0;
+    unsigned changedEntries = 0; // bit i: entry i changed, guarded by colorMutex
+    PreviewLayers layers;
 };

@@ -2,6 +2,7 @@
 // delivery of counts and types, the request/answer roads and the hand-off of library callbacks.
 #include "AppGlobals.h"
 #include "LightingDouble.h"
+#include "Log.h"
 #include "Main_View.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
@@ -67,6 +68,7 @@ private slots:
     void passesNotificationRecordBackUnchanged();
     void readsLightingAndLedNumbers();
     void handsCallbacksToGuiThread();
+    void dropsPreviewFramesThatNothingShows();
     void locationDialogAnswersOncePerChoice();
     void changesLanguageOnlyForKnownIndexes();
     void quitsOnNativeMessages();
@@ -295,6 +297,8 @@ void tst_Controller::handsCallbacksToGuiThread()
     QCOMPARE(Double_callCount("GetSettingValue"), before + 2);
 
     // Preview frames from the library's thread are coalesced while one waits.
+    m_controller->mainView()->slot_show_Lighting();
+    QCoreApplication::processEvents();
     QList<QList<COLORREF*>> previews;
     connect(m_controller.get(), &QXRGBMemory::updatePreviewList, this,
             [&previews](const QList<COLORREF*>& list) { previews << list; });
@@ -314,6 +318,45 @@ void tst_Controller::handsCallbacksToGuiThread()
     Double_firePreviewEvent(0);
     QCOMPARE(previews.size(), 2);
     QCOMPARE(relayed, 1);
+}
+
+void tst_Controller::dropsPreviewFramesThatNothingShows()
+{
+    Main_View* frame = m_controller->mainView();
+    QList<QList<COLORREF*>> previews;
+    connect(m_controller.get(), &QXRGBMemory::updatePreviewList, this,
+            [&previews](const QList<COLORREF*>& list) { previews << list; });
+
+    // The Information page is shown: frames from either thread are dropped before any work.
+    Double_firePreviewEvent(0);
+    Double_firePreviewEvent(1);
+    QCoreApplication::processEvents();
+    QCOMPARE(previews.size(), 0);
+    QCOMPARE(Double_callCount("GetValueSoftwareRGB"), 0);
+
+    // The preview coming on screen reads the colours of now once, without waiting for a frame.
+    frame->slot_show_Lighting();
+    QTRY_COMPARE(previews.size(), 1);
+    QCOMPARE(previews.at(0).at(3), Double_softwareRGB(3));
+    Double_firePreviewEvent(1);
+    QTRY_COMPARE(previews.size(), 2);
+
+    // Another page again: dropped again; back on Lighting: refreshed again.
+    frame->slot_show_Noti();
+    Double_firePreviewEvent(1);
+    QCoreApplication::processEvents();
+    QCOMPARE(previews.size(), 2);
+    frame->slot_show_Lighting();
+    QTRY_COMPARE(previews.size(), 3);
+
+    // With the diagnostic lines on, every frame is handled (and logged) as before.
+    frame->slot_show_Setting();
+    QCoreApplication::processEvents();
+    auto& panelLines = const_cast<QLoggingCategory&>(lcPanel());
+    panelLines.setEnabled(QtDebugMsg, true);
+    Double_firePreviewEvent(0);
+    panelLines.setEnabled(QtDebugMsg, false);
+    QCOMPARE(previews.size(), 4);
 }
 
 void tst_Controller::locationDialogAnswersOncePerChoice()

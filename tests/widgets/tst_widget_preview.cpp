@@ -1,6 +1,7 @@
 #include "Widget_Preview.h"
 
 #include <QImage>
+#include <QScreen>
 #include <QTest>
 
 namespace {
@@ -20,6 +21,49 @@ struct CountedPreview : Widget_Preview {
     {
         ++paints;
         Widget_Preview::paintEvent(event);
+    }
+};
+
+// The preview see-through over a shaded page, as the lighting page holds it: eight slots, two
+// empty, modules of 8 and 5 LEDs in a shuffled order.
+struct PreviewOnPage {
+    QWidget page;
+    Widget_Preview* preview = new Widget_Preview(&page);
+    COLORREF colors[8][Widget_Preview::MaxLeds] = {};
+
+    PreviewOnPage()
+    {
+        page.resize(300, 280);
+        // A picture, as the real page's background is.
+        QImage shade(300, 280, QImage::Format_RGB32);
+        for (int y = 0; y < shade.height(); ++y)
+            for (int x = 0; x < shade.width(); ++x)
+                shade.setPixel(x, y, qRgb(10 + x / 4, 40 + y / 8, 70 - (x + y) / 10));
+        QPalette palette = page.palette();
+        palette.setBrush(QPalette::Window, QPixmap::fromImage(shade));
+        page.setPalette(palette);
+        page.setAutoFillBackground(true);
+        preview->setGeometry(21, 14, 258, 252);
+        preview->setSlotNum(8);
+        preview->setModuleNum(6);
+        const int leds[8] = {8, 5, 8, 8, 5, 8, 0, 0};
+        preview->setLEDNum(8, leds);
+        const int order[8] = {2, 0, 1, 3, 7, 4, 6, 5};
+        preview->setSlotsOrder(8, order);
+        paintFrame(0);
+    }
+
+    void paintFrame(int step)
+    {
+        for (int i = 0; i < 8; ++i)
+            for (int k = 0; k < Widget_Preview::MaxLeds; ++k)
+                colors[i][k] = COLORREF((37 * (i + step) + 11 * k) % 256) |
+                               COLORREF((91 * k + 13 * i + 7 * step) % 256) << 8 |
+                               COLORREF((53 * i * k + 29 * step) % 256) << 16;
+        QList<COLORREF*> list;
+        for (auto& module : colors)
+            list << module;
+        preview->updatePreviewList(list);
     }
 };
 
@@ -76,6 +120,57 @@ private slots:
         const QImage image = preview.grab().toImage();
         QCOMPARE(image.pixel(Widget_Preview::barX(4, 8) + 5, 122), toRgb(Red));
         QVERIFY(image.pixel(Widget_Preview::barX(0, 8) + 5, 122) != toRgb(Red));
+    }
+
+    // The picture is pinned down by a reference taken from the plain drawing (every part
+    // stroked and filled on every paint): the cached parts must not change a pixel.
+    void matchesReferencePicture()
+    {
+        PreviewOnPage scene;
+        const QImage image = scene.page.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        if (qEnvironmentVariableIsSet("NX_PREVIEW_PICTURE"))
+            image.save(qEnvironmentVariable("NX_PREVIEW_PICTURE"));
+        QImage reference(QStringLiteral(NX_SOURCE_DIR "/tests/widgets/data/preview_page.png"));
+        QVERIFY(!reference.isNull());
+        reference = reference.convertToFormat(QImage::Format_RGB32);
+        QCOMPARE(image.size(), reference.size());
+        int differing = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                differing += image.pixel(x, y) != reference.pixel(x, y);
+        QCOMPARE(differing, 0);
+    }
+
+    // Frames repaint only what changed; what is on screen afterwards equals a full repaint.
+    void partialRepaintLeavesNothingStale()
+    {
+        PreviewOnPage scene;
+        scene.page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&scene.page));
+        for (int step = 1; step <= 3; ++step) {
+            scene.paintFrame(step);
+            QCoreApplication::processEvents();
+            // One module alone changes: only its neighbourhood is painted, over and under the
+            // ornaments of its neighbours.
+            scene.colors[2][4] ^= 0x00FFFFFFu;
+            scene.colors[2][0] ^= 0x00FFFFFFu;
+            QList<COLORREF*> list;
+            for (auto& module : scene.colors)
+                list << module;
+            scene.preview->updatePreviewList(list);
+            QCoreApplication::processEvents();
+        }
+        QTest::qWait(50);
+        QScreen* screen = scene.page.windowHandle()->screen();
+        const QImage shown =
+            screen->grabWindow(scene.page.winId()).toImage().convertToFormat(QImage::Format_RGB32);
+        const QImage full = scene.page.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QCOMPARE(shown.size(), full.size());
+        if (qEnvironmentVariableIsSet("NX_PREVIEW_PICTURE")) {
+            shown.save(qEnvironmentVariable("NX_PREVIEW_PICTURE") + QStringLiteral(".shown.png"));
+            full.save(qEnvironmentVariable("NX_PREVIEW_PICTURE") + QStringLiteral(".full.png"));
+        }
+        QVERIFY(shown == full);
     }
 
     void unchangedFramesSkipRepaint()
