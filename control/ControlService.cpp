@@ -3,17 +3,12 @@
 #include "AutostartEntry.h"
 #include "DesktopLanguage.h"
 #include "DesktopNotifier.h"
-#include "ModuleControllers.h"
-#include "OpenRgbOutput.h"
-#include "OutputChoice.h"
+#include "OpenRgbLink.h"
 #include "ResumeWatch.h"
-#include "SdkServer.h"
 #include "SimulatedModules.h"
 #include "SleepWatcher.h"
 #include "SystemModules.h"
 
-#include <QCoreApplication>
-#include <QHostAddress>
 #include <QLoggingCategory>
 #include <QRandomGenerator>
 #include <QTime>
@@ -37,7 +32,8 @@ ControlService::ControlService(const ServiceOptions& options, const QString& sta
           handleRequest(client, request);
       }),
       notifier_(new DesktopNotifier(sessionBus, systemBus, this)),
-      rules_(new RuleActions(notifier_, this)), sleepWatcher_(new SleepWatcher(systemBus, this))
+      rules_(new RuleActions(notifier_, this)), sleepWatcher_(new SleepWatcher(systemBus, this)),
+      openRgb_(new OpenRgbLink(this))
 {
     connect(sleepWatcher_, &SleepWatcher::resumed, this, [this] {
         qCInfo(lcService) << "resumed from suspend: re-applying the lighting";
@@ -98,8 +94,13 @@ bool ControlService::start(QString* error)
     }
     syncAutostart();
 
-    if (!startOpenRgb(error))
+    connect(openRgb_, &OpenRgbLink::modulesChanged, this, &ControlService::openRgbModulesChanged);
+    connect(openRgb_, &OpenRgbLink::pictureChanged, this, &ControlService::updateRendering);
+    connect(openRgb_, &OpenRgbLink::lightModeRequested, this, &ControlService::applySdkLightMode);
+    connect(this, &ControlService::lightingReapplied, openRgb_, &OpenRgbLink::reapply);
+    if (!openRgb_->start(simulation_.output, options_.sdkServerHost, options_.sdkServerPort, error))
         return false;
+    openRgb_->setModules(hardwareInfo(), state_);
     if (!server_.listen(socketPath_, error))
         return false;
     monitor_->start();
@@ -123,10 +124,7 @@ void ControlService::stop()
 {
     frameTimer_.stop();
     music_.stop();
-    if (sdkServer_)
-        sdkServer_->close();
-    sinks_.clear();
-    output_.reset();
+    openRgb_->stop();
     broadcastTimer_.stop();
     if (monitor_)
         monitor_->disconnect(this);
@@ -213,8 +211,8 @@ void ControlService::broadcastState()
     message.changes = pendingChanges_;
     message.state = state_;
     pendingChanges_ = 0;
-    if (sdkServer_ && (message.changes & (nxproto::ChangeLighting | nxproto::ChangeProfile)))
-        sdkServer_->setModules(ModuleControllers::fromHardware(hardwareInfo(), state_));
+    if (message.changes & (nxproto::ChangeLighting | nxproto::ChangeProfile))
+        openRgb_->setModules(hardwareInfo(), state_);
     if (message.changes != 0)
         updateRendering();
     const auto clients = server_.clients();
@@ -235,8 +233,7 @@ void ControlService::broadcastState()
 void ControlService::broadcastHardware()
 {
     const nxproto::HardwareInfo hardware = hardwareInfo();
-    if (sdkServer_)
-        sdkServer_->setModules(ModuleControllers::fromHardware(hardware, state_));
+    openRgb_->setModules(hardware, state_);
     const std::vector<uint8_t> frame = nxproto::encodeHardware(hardware);
     const auto clients = server_.clients();
     for (ClientConnection* client : clients)
@@ -259,7 +256,7 @@ void ControlService::removeFrameSink(int id)
 
 bool ControlService::framesWanted() const
 {
-    if (!sinks_.empty() || (sdkServer_ && sdkServer_->sessionCount() > 0))
+    if (!sinks_.empty() || openRgb_->wantsFrames())
         return true;
     const auto& clients = server_.clients();
     return std::any_of(clients.begin(), clients.end(),
@@ -307,7 +304,7 @@ void ControlService::renderFrame()
     nxproto::PreviewMessage message;
     const bool animated = EffectRenderer::render(state_, hardware, scene, message.colors);
     // An SDK client's colours replace the rendered ones of the modules it drives.
-    direct_.apply(message.colors);
+    openRgb_->applyDirect(message.colors);
     // The load rule overrides every LED of every module while it holds.
     if (const std::optional<COLORREF> color = rules_->loadOverride()) {
         for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
@@ -326,8 +323,7 @@ void ControlService::renderFrame()
     message.frame = ++frameNumber_;
     lastFrame_ = message;
     haveFrame_ = true;
-    if (sdkServer_)
-        sdkServer_->setFrame(message.colors);
+    openRgb_->showFrame(message.colors);
     std::vector<uint8_t> frame;
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
@@ -401,63 +397,21 @@ void ControlService::retrySave()
 nxproto::HardwareInfo ControlService::hardwareInfo() const
 {
     nxproto::HardwareInfo info = monitor_->info();
-    if (output_)
-        output_->report(info);
+    openRgb_->report(info);
     return info;
 }
 
-bool ControlService::startOpenRgb(QString* error)
-{
-    OutputChoice choice;
-    std::string reason;
-    if (OutputChoice::parse(simulation_.output, &choice, &reason) && choice.openrgb) {
-        output_ = std::make_unique<OpenRgbOutput>(QString::fromStdString(choice.host), choice.port);
-        connect(output_.get(), &OpenRgbOutput::modulesChanged, this,
-                &ControlService::outputChanged);
-        connect(this, &ControlService::lightingReapplied, output_.get(), &OpenRgbOutput::reapply);
-        output_->start();
-    }
-    if (options_.sdkServerHost.isEmpty())
-        return true;
-    const QHostAddress address(options_.sdkServerHost);
-    if (address.isNull()) {
-        *error = QStringLiteral("--sdk-server needs an IP address, not ") + options_.sdkServerHost;
-        return false;
-    }
-    sdkServer_ =
-        std::make_unique<SdkServer>(direct_, QCoreApplication::applicationVersion().toStdString());
-    sdkServer_->setModules(ModuleControllers::fromHardware(hardwareInfo(), state_));
-    connect(sdkServer_.get(), &SdkServer::lightModeRequested, this,
-            &ControlService::applySdkLightMode);
-    // Clients read the modules' colours, and their direct colours are part of the picture.
-    connect(sdkServer_.get(), &SdkServer::sessionsChanged, this, &ControlService::updateRendering);
-    connect(sdkServer_.get(), &SdkServer::directChanged, this, &ControlService::updateRendering);
-    return sdkServer_->listen(address, options_.sdkServerPort, error);
-}
-
-void ControlService::outputChanged()
+void ControlService::openRgbModulesChanged()
 {
     broadcastHardware();
-    // The output takes frames while it streams; a new listing gets the whole picture again.
-    if (output_->connected() && outputSink_ == 0) {
-        outputSink_ = addFrameSink(
-            [this](const nxproto::PreviewMessage& message) { output_->showFrame(message.colors); });
-    } else if (!output_->connected() && outputSink_ != 0) {
-        removeFrameSink(outputSink_);
-        outputSink_ = 0;
-    }
+    // The output streams while connected; a new listing gets the whole picture.
     haveFrame_ = false;
     updateRendering();
 }
 
 void ControlService::leaveDirect(int slot)
 {
-    const bool wasDirect = slot < 0 ? direct_.anyActive() : direct_.active(slot);
-    if (slot < 0)
-        direct_.leaveAll();
-    else
-        direct_.leave(slot);
-    if (wasDirect)
+    if (openRgb_->leaveDirect(slot))
         updateRendering();
 }
 

@@ -2,7 +2,6 @@
 
 #include "ControlServer.h"
 #include "ControlState.h"
-#include "DirectLighting.h"
 #include "EffectRenderer.h"
 #include "HardwareMonitor.h"
 #include "MusicCapture.h"
@@ -22,8 +21,7 @@
 #include <unordered_map>
 
 class DesktopNotifier;
-class OpenRgbOutput;
-class SdkServer;
+class OpenRgbLink;
 class SleepWatcher;
 
 // The control service: owns the lighting state, applies the clients' requests, pushes every
@@ -89,8 +87,7 @@ private:
     // Writes the state if it has unsaved changes; true when everything is on disk.
     bool commit();
     void retrySave();
-    bool startOpenRgb(QString* error);
-    void outputChanged();
+    void openRgbModulesChanged();
     // Ends an SDK client's direct control of the slot (of all slots when -1).
     void leaveDirect(int slot);
     void applySdkLightMode(int slot, int lightMode, int lightSpeed);
@@ -124,8 +121,5 @@ private:
     MusicCapture music_; // open only while a Party mode is rendered
     nxproto::PreviewMessage lastFrame_;
     bool haveFrame_ = false;
-    DirectLighting direct_;
-    std::unique_ptr<OpenRgbOutput> output_;
-    std::unique_ptr<SdkServer> sdkServer_;
-    int outputSink_ = 0;
+    OpenRgbLink* openRgb_;
 };
