@@ -266,6 +266,18 @@ void Main_View::raiseChrome()
     placeWindowButtonsLast();
 }
 
+bool Main_View::focusNextPrevChild(bool next)
+{
+    if (btn_Close && (!focusWidget() || focusWidget() == this)) {
+        if (next)
+            btn_Info->setFocus(Qt::TabFocusReason);
+        else
+            btn_Close->setFocus(Qt::BacktabFocusReason);
+        return true;
+    }
+    return QWidget::focusNextPrevChild(next);
+}
+
 void Main_View::placeWindowButtonsLast()
 {
     if (!btn_Close || !btn_Min)

@@ -108,6 +108,9 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     bool nativeEvent(const QByteArray& eventType, void* message, long* result) override;
+    // From the frame itself (focus taken by a click on it), Tab starts at the menu and
+    // Shift+Tab at the close button.
+    bool focusNextPrevChild(bool next) override;
 
 private:
     static void receivePlatformMessage(void* context, unsigned message, std::uintptr_t wParam,

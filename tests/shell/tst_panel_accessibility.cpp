@@ -336,6 +336,19 @@ private slots:
             QVERIFY2(pageBefore,
                      qPrintable(beforeMin ? beforeMin->objectName() : QStringLiteral("none")));
         }
+
+        // A click on the frame gives it the focus; Tab then starts at the menu, Shift+Tab at
+        // the close button.
+        frame->show();
+        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+        frame->setFocus(Qt::MouseFocusReason);
+        QTRY_VERIFY(frame->hasFocus());
+        QTest::keyClick(frame.get(), Qt::Key_Tab);
+        QTRY_VERIFY(frame->btn_Info->hasFocus());
+        frame->setFocus(Qt::MouseFocusReason);
+        QTRY_VERIFY(frame->hasFocus());
+        QTest::keyClick(frame.get(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QTRY_VERIFY(frame->btn_Close->hasFocus());
     }
 
     // The load gauge is a progress bar named "Load" whose value follows the data; unknown load
