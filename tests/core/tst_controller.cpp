@@ -5,6 +5,7 @@
 #include "Main_View.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
+#include "QuitRequest.h"
 #include "Setting_View.h"
 #include "TestEnvironment.h"
 #include "Widget_LocationPolicy.h"
@@ -40,13 +41,9 @@ HWData hwWith(int memoryCount, int slotCount, quint32 updateTime)
     return hw;
 }
 
-// Runs `action` inside an event loop and tells whether the application was asked to quit.
 bool quitsDuring(const std::function<void()>& action)
 {
-    QEventLoop loop;
-    QTimer::singleShot(0, action);
-    QTimer::singleShot(1500, &loop, [&loop]() { loop.exit(99); });
-    return loop.exec() != 99;
+    return QuitRequest::during(action, 1500);
 }
 
 } // namespace

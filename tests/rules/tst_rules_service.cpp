@@ -83,6 +83,16 @@ NotiEventData rulesOff()
     return noti;
 }
 
+// The first hardware report a new client of the service receives.
+bool readHardware(Service& service, nxproto::HardwareInfo& hardware)
+{
+    RawClient client;
+    nxproto::Frame frame;
+    return service.connect(client) &&
+           client.waitFor(nxproto::MessageType::Hardware, &frame, 5000) &&
+           nxproto::decodeHardware(frame, hardware, nullptr);
+}
+
 void setCpuTemperature(fixture::Root& root, int milli)
 {
     root.write(QStringLiteral("sys/class/hwmon/hwmon0/temp1_input"),
@@ -141,12 +151,8 @@ void TestRulesService::moduleSources()
                        fixture::ddr4Spd(625, 13750, 13750, ((1u << 15) - 1) << 3));
     {
         Service service({QStringLiteral("--root"), machine.path()});
-        RawClient client;
-        QVERIFY(service.connect(client));
-        nxproto::Frame frame;
         nxproto::HardwareInfo hardware;
-        QVERIFY(client.waitFor(nxproto::MessageType::Hardware, &frame, 5000));
-        QVERIFY(nxproto::decodeHardware(frame, hardware, nullptr));
+        QVERIFY(readHardware(service, hardware));
         QCOMPARE(hardware.memoryCount, 2);
         QCOMPARE(hardware.channel, 2);
         QCOMPARE(hardware.casLatency, 22.0);
@@ -164,12 +170,8 @@ void TestRulesService::moduleSources()
           QStringList{QStringLiteral("--root"), QDir::tempPath() + QStringLiteral("/nx-none")}}) {
         QDir().mkpath(QDir::tempPath() + QStringLiteral("/nx-none"));
         Service service(arguments);
-        RawClient client;
-        QVERIFY(service.connect(client));
-        nxproto::Frame frame;
         nxproto::HardwareInfo hardware;
-        QVERIFY(client.waitFor(nxproto::MessageType::Hardware, &frame, 5000));
-        QVERIFY(nxproto::decodeHardware(frame, hardware, nullptr));
+        QVERIFY(readHardware(service, hardware));
         QCOMPARE(hardware.memoryCount, 4);
         QCOMPARE(hardware.modules[0].modelCode, std::string("KX44"));
         QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("modules: simulated")),

@@ -2,6 +2,7 @@
 
 #include "Loading_View.h"
 #include "Platform.h"
+#include "QuitRequest.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -21,14 +22,9 @@ void record(void* context, unsigned message, std::uintptr_t wParam, std::intptr_
         << QStringLiteral("%1 %2 %3").arg(message, 0, 16).arg(wParam).arg(lParam);
 }
 
-// Runs `action` inside the application's event loop and tells whether it asked the
-// application to quit. The application's own exec() clears the quit request afterwards.
 bool requestsQuit(const std::function<void()>& action)
 {
-    QObject guard; // takes the time-out with it
-    QTimer::singleShot(3000, &guard, []() { QCoreApplication::exit(1); });
-    QTimer::singleShot(0, action);
-    return QCoreApplication::exec() == 0;
+    return QuitRequest::during(action, 3000);
 }
 } // namespace
 

@@ -8,6 +8,7 @@
 #include "Main_View.h"
 #include "Noti_View.h"
 #include "Platform.h"
+#include "QuitRequest.h"
 #include "Setting_View.h"
 
 #include <QButtonGroup>
@@ -21,14 +22,9 @@
 #include <memory>
 
 namespace {
-// Runs `action` inside the application's event loop and tells whether it asked the
-// application to quit. The application's own exec() clears the quit request afterwards.
 bool requestsQuit(const std::function<void()>& action)
 {
-    QObject guard; // takes the time-out with it
-    QTimer::singleShot(300, &guard, []() { QCoreApplication::exit(1); });
-    QTimer::singleShot(0, action);
-    return QCoreApplication::exec() == 0;
+    return QuitRequest::during(action, 300);
 }
 } // namespace
 
