@@ -1,7 +1,6 @@
 // Window close button: a light grey X.
 #include "ImageRegistry.h"
-
-#include <QPainter>
+#include "Shapes.h"
 
 namespace {
 constexpr int kSize = 15;
@@ -11,14 +10,11 @@ const QColor kColor(205, 208, 212);
 
 QImage drawClose()
 {
-    QImage image(kSize, kSize, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(kColor, kStroke, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(QPointF(kInset, kInset), QPointF(kSize - kInset, kSize - kInset));
-    painter.drawLine(QPointF(kSize - kInset, kInset), QPointF(kInset, kSize - kInset));
-    return image;
+    return Shapes::painted(kSize, kSize, [](QPainter& painter) {
+        painter.setPen(QPen(kColor, kStroke, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(kInset, kInset), QPointF(kSize - kInset, kSize - kInset));
+        painter.drawLine(QPointF(kSize - kInset, kInset), QPointF(kInset, kSize - kInset));
+    });
 }
 } // namespace
 

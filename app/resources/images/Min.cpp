@@ -1,7 +1,6 @@
 // Window minimise button: a light grey dash.
 #include "ImageRegistry.h"
-
-#include <QPainter>
+#include "Shapes.h"
 
 namespace {
 constexpr int kWidth = 18;
@@ -12,14 +11,11 @@ const QColor kColor(205, 208, 212);
 
 QImage drawMin()
 {
-    QImage image(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(kColor, kStroke, Qt::SolidLine, Qt::RoundCap));
-    const qreal y = kHeight / 2.0;
-    painter.drawLine(QPointF(kInset, y), QPointF(kWidth - kInset, y));
-    return image;
+    return Shapes::painted(kWidth, kHeight, [](QPainter& painter) {
+        painter.setPen(QPen(kColor, kStroke, Qt::SolidLine, Qt::RoundCap));
+        const qreal y = kHeight / 2.0;
+        painter.drawLine(QPointF(kInset, y), QPointF(kWidth - kInset, y));
+    });
 }
 } // namespace
 
