@@ -41,11 +41,6 @@ HWData hwWith(int memoryCount, int slotCount, quint32 updateTime)
     return hw;
 }
 
-bool quitsDuring(const std::function<void()>& action)
-{
-    return QuitRequest::during(action, 1500);
-}
-
 } // namespace
 
 class tst_Controller : public QObject
@@ -366,12 +361,12 @@ void tst_Controller::quitsOnNativeMessages()
     // A quit holds for the rest of the process, so the one quitting case comes last; 0x8301 is
     // sent to a running panel by the start-up tests.
     QXRGBMemory* c = m_controller.get();
-    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8101, 1, 1); }));
-    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8302, 0, 0); }));
-    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8303, 1, 0); }));
+    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8101, 1, 1); }, 1500));
+    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8302, 0, 0); }, 1500));
+    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 1, 0); }, 1500));
     c->setProgramStart(true);
-    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8303, 0, 0); }));
-    QVERIFY(quitsDuring([c]() { c->handleNativeMessage(0x8303, 1, 0); }));
+    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 0, 0); }, 1500));
+    QVERIFY(QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 1, 0); }, 1500));
 }
 
 QTEST_MAIN(tst_Controller)

@@ -22,10 +22,6 @@ void record(void* context, unsigned message, std::uintptr_t wParam, std::intptr_
         << QStringLiteral("%1 %2 %3").arg(message, 0, 16).arg(wParam).arg(lParam);
 }
 
-bool requestsQuit(const std::function<void()>& action)
-{
-    return QuitRequest::during(action, 3000);
-}
 } // namespace
 
 class TestLoadingView : public QObject
@@ -94,7 +90,7 @@ void TestLoadingView::closeAppTellsTheRunningPrograms()
     const auto clickOK = [&view]() { QTest::mouseClick(view.btn_OK, Qt::LeftButton); };
 
     // Neither program holds its name: nobody is told, the application still quits.
-    QVERIFY(requestsQuit(clickOK));
+    QVERIFY(QuitRequest::during(clickOK, 3000));
     QVERIFY(panel.isEmpty() && control.isEmpty());
 
     // Both running: each window gets the quit message with 1, 1.
@@ -103,13 +99,13 @@ void TestLoadingView::closeAppTellsTheRunningPrograms()
     QVERIFY(!existed);
     Platform::MutexHandle controlName = Platform::createMutex(L"NORVALEX Control.exe", &existed);
     QVERIFY(!existed);
-    QVERIFY(requestsQuit(clickOK));
+    QVERIFY(QuitRequest::during(clickOK, 3000));
     QCOMPARE(panel, QStringList{"8301 1 1"});
     QCOMPARE(control, QStringList{"8301 1 1"});
 
     // Only the control service running.
     Platform::closeHandle(panelName);
-    QVERIFY(requestsQuit(clickOK));
+    QVERIFY(QuitRequest::during(clickOK, 3000));
     QCOMPARE(panel.size(), 1);
     QCOMPARE(control.size(), 2);
 

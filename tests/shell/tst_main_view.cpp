@@ -21,13 +21,6 @@
 #include <functional>
 #include <memory>
 
-namespace {
-bool requestsQuit(const std::function<void()>& action)
-{
-    return QuitRequest::during(action, 300);
-}
-} // namespace
-
 class TestMainView : public QObject
 {
     Q_OBJECT
@@ -282,15 +275,15 @@ void TestMainView::nativeMessages()
         return [view, id, wParam]() { view->handleNativeMessage(id, wParam, 0); };
     };
     // 0x8303 quits only a panel the control service started, and only with a non-zero wParam.
-    QVERIFY(!requestsQuit(message(Platform::kMessageQuitIfOpened, 1)));
-    QVERIFY(!requestsQuit(message(Platform::kMessageRaise, 1)));
+    QVERIFY(!QuitRequest::during(message(Platform::kMessageQuitIfOpened, 1), 300));
+    QVERIFY(!QuitRequest::during(message(Platform::kMessageRaise, 1), 300));
     programStarted = true;
-    QVERIFY(!requestsQuit(message(Platform::kMessageQuitIfOpened, 0)));
-    QVERIFY(requestsQuit(message(Platform::kMessageQuitIfOpened, 1)));
+    QVERIFY(!QuitRequest::during(message(Platform::kMessageQuitIfOpened, 0), 300));
+    QVERIFY(QuitRequest::during(message(Platform::kMessageQuitIfOpened, 1), 300));
     programStarted = false;
     // 0x8301 always quits, here through the platform layer.
-    QVERIFY(
-        requestsQuit([window]() { Platform::sendMessage(window, Platform::kMessageQuit, 1, 1); }));
+    QVERIFY(QuitRequest::during(
+        [window]() { Platform::sendMessage(window, Platform::kMessageQuit, 1, 1); }, 300));
 
     // The frame stops listening when it goes.
     frame.reset();
