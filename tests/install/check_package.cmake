@@ -41,6 +41,20 @@ if(NOT depends MATCHES "libqt5core5a" OR NOT depends MATCHES "libc6")
   list(APPEND failures "dependencies not computed from the binaries: ${depends}")
 endif()
 
+# The maintainer scripts enable the DMI cache's unit and check with the shell.
+execute_process(COMMAND ${DPKG_DEB} -e ${package} ${WORK_DIR}/control)
+foreach(script IN ITEMS postinst prerm postrm)
+  execute_process(COMMAND sh -n ${WORK_DIR}/control/${script} RESULT_VARIABLE result
+                  OUTPUT_QUIET ERROR_QUIET)
+  if(NOT result EQUAL 0)
+    list(APPEND failures "the package's ${script} is missing or not valid shell")
+  endif()
+endforeach()
+file(STRINGS ${WORK_DIR}/control/postinst enables REGEX "deb-systemd-helper enable")
+if(NOT enables)
+  list(APPEND failures "postinst does not enable the DMI cache's unit")
+endif()
+
 # Stripped: no debugging sections left in the programs.
 execute_process(COMMAND ${DPKG_DEB} -x ${package} ${WORK_DIR}/root)
 file(GLOB_RECURSE programs ${WORK_DIR}/root/usr/lib/*/norvalex-control
