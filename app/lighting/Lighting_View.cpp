@@ -14,7 +14,7 @@
 #include "RGB_Palette.h"
 #include "SelectionDeck.h"
 #include "SlotLayout.h"
-#include "StripDrag.h"
+#include "SlotOrder.h"
 #include "StripSelection.h"
 #include "SwitchButton.h"
 #include "Widget_Light_Mode_View.h"
@@ -60,7 +60,7 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
         btn_Profile, btn_Edit, btn_Edit_Cancel, btn_Edit_Apply, savedOrder, maxLEDNum});
     profiles = std::make_unique<ProfileButtons>(this, btn_Profile);
     slotLayout->createEditButtons();
-    selectionDeck = std::make_unique<SelectionDeck>(*deck, *modes, memoryRGBView, memoryData);
+    selectionDeck = std::make_unique<SelectionDeck>(this, *deck, *modes, memoryRGBView, memoryData);
 
     widget_Light_Mode_View =
         new Widget_Light_Mode_View(kLightModeListRect.width(), kLightModeListRect.height(), this);
@@ -76,14 +76,14 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
     palette_draw_rect->setAttribute(Qt::WA_TransparentForMouseEvents);
     palette_draw_rect->hide();
 
-    stripDrag = std::make_unique<StripDrag>(this, memoryRGBView, *slotLayout);
-
     selection = std::make_unique<StripSelection>(
         StripSelection::PageState{palette_draw_rect, allselect_start_x, allselect_start_y,
                                   allselect_end_x, allselect_end_y, allselectDragging,
                                   memoryRGBView, memoryData, btn_SelectHorizontal,
                                   selectAreaPointList},
         *slotLayout);
+    slotOrder =
+        std::make_unique<SlotOrder>(this, memoryRGBView, *slotLayout, *selection, savedOrder);
 
     LightingWiring::connect(this, {*deck, widget_Light_Mode_View, memoryRGBView,
                                    btn_SelectHorizontal, btn_Profile, btn_Edit, btn_Edit_Cancel,
@@ -125,90 +125,36 @@ bool Lighting_View::isSlotChecked(int slot) const
     return memoryRGBView[slot]->btn_MemorySlot->isChecked();
 }
 
-void Lighting_View::finishEditMode()
-{
-    stripDrag->hide();
-    slotLayout->finishEditMode();
-    update();
-}
-
 // ----- requests from the user -------------------------------------------------------------------
 
 void Lighting_View::slotApply()
 {
     qCDebug(lcPanel) << "Lighting_View::slotApply";
-    for (int i = 0; i < SlotCount; ++i) {
-        if (!isSlotChecked(i))
-            continue;
-        MemoryModuleData& module = memoryData[i];
-        // An empty text means the selected modules disagree: their own values are kept.
-        if (!deck->btn_LightMode->text().isEmpty()) {
-            module.lightMode = currentLightMode;
-            if (!deck->comboBox_ColorMode->currentText().isEmpty())
-                module.colorMode = modes->colorModeOfComboText();
-            if (!deck->comboBox_LightSpeed->currentText().isEmpty())
-                module.lightSpeed = deck->comboBox_LightSpeed->currentIndex();
-        }
-        qCDebug(lcPanel) << "UI-->changeBright ==" << deck->slider_Light->value();
-        emit changeBright(static_cast<float>(deck->slider_Light->value() / 10.0));
-        Memory_RGB_View* strip = memoryRGBView[i];
-        emit changeColor(i, strip->ledColor, strip->singleColor, strip->ledBright,
-                         strip->singleBright);
-    }
-    for (int i = 0; i < SlotCount; ++i) {
-        if (!isSlotChecked(i))
-            continue;
-        const MemoryModuleData& module = memoryData[i];
-        emit changeLightMode(i, module.lightMode, module.colorMode, module.lightSpeed,
-                             module.lightingOff != 0);
-        emit changeColorMode(i, module.colorMode);
-    }
+    selectionDeck->apply(currentLightMode);
 }
 
 void Lighting_View::slotEdit()
 {
     qCDebug(lcPanel) << "Lighting_View::slotEdit";
-    for (int i = 0; i < SlotCount; ++i)
-        savedOrder[i] = memoryRGBView[i]->slotPosition;
-    if (isEditMode()) {
-        finishEditMode();
-        return;
-    }
-    slotLayout->enterEditMode();
-    selection->rebuildOutline();
-    update();
+    slotOrder->toggleEditMode();
 }
 
 void Lighting_View::slotEdit_Cancel()
 {
     qCDebug(lcPanel) << "Lighting_View::slotEdit_Cancel";
-    stripDrag->hide();
-    slotLayout->cancelEditMode();
-    update();
+    slotOrder->cancelEditMode();
 }
 
 void Lighting_View::slotEdit_Apply()
 {
     qCDebug(lcPanel) << "Lighting_View::slotEdit_Apply";
-    finishEditMode();
-    int order[SlotCount];
-    slotLayout->currentOrder(order);
-    emit changeMemorySlotNumber(SlotCount, order);
-    slotLayout->widget_Preview->setSlotsOrder(SlotCount, order);
-    slotLayout->widget_Preview->update();
+    slotOrder->applyEditMode();
 }
 
 void Lighting_View::slotDefault()
 {
     qCDebug(lcPanel) << "Lighting_View::slotDefault";
-    emit changeBright(1.0f);
-    for (int i = 0; i < SlotCount; ++i) {
-        if (!isSlotChecked(i))
-            continue;
-        deck->comboBox_LightSpeed->setCurrentIndex(LightModeTable::FixedSpeed);
-        emit changeColorMode(i, memoryData[i].colorMode);
-    }
-    emit sendDefault();
+    selectionDeck->restoreDefaults();
 }
 
 void Lighting_View::currentLightModeIndex(int lightMode)
@@ -275,12 +221,7 @@ void Lighting_View::slot_SelectMemSlot(int slot)
     }
 
     selectionDeck->showSelection(currentLightMode);
-    for (int i = 0; i < SlotCount; ++i) {
-        if (isSlotChecked(i) && memoryRGBView[i]->available) {
-            deck->showSwitchState(memoryData[i].lightingOff == 0);
-            break;
-        }
-    }
+    selectionDeck->showSwitch();
     selection->rebuildOutline();
     selection->updateRowButtons();
     selectionDeck->showModuleColor(SelectMemoryIndex);
@@ -290,11 +231,7 @@ void Lighting_View::slot_SelectMemSlot(int slot)
 void Lighting_View::slot_TurnOn_Switch(bool on)
 {
     qCDebug(lcPanel) << "Lighting_View::slot_TurnOn_Switch" << on;
-    deck->showSwitchLabel(on);
-    for (int i = 0; i < SlotCount; ++i) {
-        if (isSlotChecked(i))
-            memoryData[i].lightingOff = on ? 0 : 1;
-    }
+    selectionDeck->setSwitch(on);
 }
 
 void Lighting_View::slot_SelectHorizontal()
@@ -438,30 +375,7 @@ void Lighting_View::setMemorySlots(int slotCount, int availableCount)
 void Lighting_View::setMemorySlotNumber(int count, int* order)
 {
     qCDebug(lcPanel) << "Lighting_View::setMemorySlotNumber" << count;
-    if (!order)
-        return;
-    const int placed = qBound(0, count, static_cast<int>(SlotCount));
-    bool anyChecked = false;
-    for (int i = 0; i < placed; ++i)
-        anyChecked = anyChecked || isSlotChecked(i);
-
-    // Only while nothing is selected: a selection keeps the strips where the user sees them.
-    if (!anyChecked) {
-        slotLayout->setColumns(placed, order);
-        int first = 0;
-        for (int i = 0; i < placed; ++i) {
-            if (memoryRGBView[i]->slotPosition == 0) {
-                first = i;
-                break;
-            }
-        }
-        slot_SelectMemSlot(first);
-    }
-
-    slotLayout->widget_Preview->setSlotsOrder(placed, order);
-    slotLayout->placeMarkers();
-    slotLayout->widget_Preview->update();
-    update();
+    slotOrder->setOrder(count, order);
 }
 
 void Lighting_View::setMemoryLEDNumber(int count, int* ledNumbers)
@@ -499,7 +413,7 @@ void Lighting_View::mousePressEvent(QMouseEvent* event)
 {
     const QPoint pos = event->pos();
     if (isEditMode())
-        stripDrag->press(pos);
+        slotOrder->press(pos);
     else
         selection->press(pos);
 }
@@ -507,11 +421,11 @@ void Lighting_View::mousePressEvent(QMouseEvent* event)
 void Lighting_View::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint pos = event->pos();
-    if (stripDrag->isActive()) {
-        stripDrag->follow(pos);
+    if (slotOrder->isActive()) {
+        slotOrder->follow(pos);
         if (isEditMode()) {
             allselectDragging = false;
-            stripDrag->hover(pos);
+            slotOrder->hover(pos);
             return;
         }
     }
@@ -522,10 +436,10 @@ void Lighting_View::mouseMoveEvent(QMouseEvent* event)
 void Lighting_View::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPoint pos = event->pos();
-    if (stripDrag->isActive()) {
-        stripDrag->hide();
+    if (slotOrder->isActive()) {
+        slotOrder->hide();
         if (isEditMode())
-            stripDrag->drop(pos);
+            slotOrder->drop(pos);
     }
     selection->release(pos);
     update();

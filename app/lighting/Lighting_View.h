@@ -19,7 +19,7 @@ class QPropertyAnimation;
 class QPushButton;
 class SelectionDeck;
 class SlotLayout;
-class StripDrag;
+class SlotOrder;
 class StripSelection;
 class Widget_Light_Mode_View;
 
@@ -29,7 +29,8 @@ class Widget_Light_Mode_View;
 // setLighting, setRGB and the slot-layout setters. The page owns its state and wires its
 // helpers: LightingDeck builds the control deck (with ColorEntry for the colour channels),
 // ModeControls fills its combos for a light mode, SelectionDeck shows the selected modules in
-// it, SlotLayout arranges the slots and runs Edit mode, StripDrag carries a strip there, and
+// it, SlotLayout arranges the slots and runs Edit mode, SlotOrder keeps their order and drags a
+// strip in Edit mode, and
 // StripSelection selects LEDs.
 class Lighting_View : public QWidget
 {
@@ -112,7 +113,6 @@ private:
     // Shared steps.
     bool isEditMode() const;
     bool isSlotChecked(int slot) const;
-    void finishEditMode();
     void commitLineEdit(int channel);
 
     // Per-module lighting state, by slot.
@@ -155,5 +155,5 @@ private:
     QPolygon selectAreaPointList;
 
     // The strip picked up in Edit mode.
-    std::unique_ptr<StripDrag> stripDrag;
+    std::unique_ptr<SlotOrder> slotOrder;
 };

@@ -5,17 +5,19 @@
 #include "LightModeTable.h"
 #include "LightingDeck.h"
 #include "LightingLook.h"
+#include "Lighting_View.h"
 #include "Log.h"
 #include "Memory_RGB_View.h"
 #include "ModeControls.h"
 
 #include <QComboBox>
 #include <QPushButton>
+#include <QSlider>
 
-SelectionDeck::SelectionDeck(LightingDeck& deck, ModeControls& modes,
+SelectionDeck::SelectionDeck(Lighting_View* page, LightingDeck& deck, ModeControls& modes,
                              Memory_RGB_View* const (&strips)[SlotCount],
-                             const MemoryModuleData (&modules)[SlotCount])
-    : deck(deck), modes(modes), strips(strips), modules(modules)
+                             MemoryModuleData (&modules)[SlotCount])
+    : page(page), deck(deck), modes(modes), strips(strips), modules(modules)
 {
 }
 
@@ -127,4 +129,65 @@ float SelectionDeck::moduleBrightness(int slot) const
 void SelectionDeck::applyMbSyncRule(int lightMode)
 {
     deck.showMbSyncWarning(mbSyncWarning && lightMode == LightingLook::kMbSyncMode);
+}
+
+void SelectionDeck::showSwitch()
+{
+    for (int i = 0; i < SlotCount; ++i) {
+        if (isSlotChecked(i) && strips[i]->available) {
+            deck.showSwitchState(modules[i].lightingOff == 0);
+            return;
+        }
+    }
+}
+
+void SelectionDeck::apply(int currentLightMode)
+{
+    for (int i = 0; i < SlotCount; ++i) {
+        if (!isSlotChecked(i))
+            continue;
+        MemoryModuleData& module = modules[i];
+        // An empty text means the selected modules disagree: their own values are kept.
+        if (!deck.btn_LightMode->text().isEmpty()) {
+            module.lightMode = currentLightMode;
+            if (!deck.comboBox_ColorMode->currentText().isEmpty())
+                module.colorMode = modes.colorModeOfComboText();
+            if (!deck.comboBox_LightSpeed->currentText().isEmpty())
+                module.lightSpeed = deck.comboBox_LightSpeed->currentIndex();
+        }
+        qCDebug(lcPanel) << "UI-->changeBright ==" << deck.slider_Light->value();
+        emit page->changeBright(static_cast<float>(deck.slider_Light->value() / 10.0));
+        Memory_RGB_View* strip = strips[i];
+        emit page->changeColor(i, strip->ledColor, strip->singleColor, strip->ledBright,
+                               strip->singleBright);
+    }
+    for (int i = 0; i < SlotCount; ++i) {
+        if (!isSlotChecked(i))
+            continue;
+        const MemoryModuleData& module = modules[i];
+        emit page->changeLightMode(i, module.lightMode, module.colorMode, module.lightSpeed,
+                                   module.lightingOff != 0);
+        emit page->changeColorMode(i, module.colorMode);
+    }
+}
+
+void SelectionDeck::restoreDefaults()
+{
+    emit page->changeBright(1.0f);
+    for (int i = 0; i < SlotCount; ++i) {
+        if (!isSlotChecked(i))
+            continue;
+        deck.comboBox_LightSpeed->setCurrentIndex(LightModeTable::FixedSpeed);
+        emit page->changeColorMode(i, modules[i].colorMode);
+    }
+    emit page->sendDefault();
+}
+
+void SelectionDeck::setSwitch(bool on)
+{
+    deck.showSwitchLabel(on);
+    for (int i = 0; i < SlotCount; ++i) {
+        if (isSlotChecked(i))
+            modules[i].lightingOff = on ? 0 : 1;
+    }
 }

@@ -3,20 +3,22 @@
 #include "norvalex_lighting.h"
 
 class LightingDeck;
+class Lighting_View;
 class Memory_RGB_View;
 class ModeControls;
 
-// The control deck of the lighting page showing the selected modules: their light mode, colour
-// mode, speed, brightness and colour, or empty controls where the selected modules disagree.
+// The control deck of the lighting page and the selected modules: the deck shows their light
+// mode, colour mode, speed, switch, brightness and colour, or empty controls where they disagree;
+// Apply, Default and the switch carry the deck's values to them and send the page's requests.
 // Works on the page's strips and per-module state, handed over by reference.
 class SelectionDeck
 {
 public:
     static constexpr int SlotCount = 8;
 
-    SelectionDeck(LightingDeck& deck, ModeControls& modes,
+    SelectionDeck(Lighting_View* page, LightingDeck& deck, ModeControls& modes,
                   Memory_RGB_View* const (&strips)[SlotCount],
-                  const MemoryModuleData (&modules)[SlotCount]);
+                  MemoryModuleData (&modules)[SlotCount]);
     SelectionDeck(const SelectionDeck&) = delete;
     SelectionDeck& operator=(const SelectionDeck&) = delete;
 
@@ -34,10 +36,21 @@ public:
     // What the brightness slider shows for a module in its strip's colour mode.
     float moduleBrightness(int slot) const;
     void applyMbSyncRule(int lightMode);
+    // The switch shows the first selected module that is present.
+    void showSwitch();
+
+    // Each selected module takes what the deck shows (`currentLightMode` for the mode) and the
+    // page sends its brightness and colours, then its lighting and colour mode.
+    void apply(int currentLightMode);
+    // Full brightness, the fixed speed and the stored colour modes, then the strips' defaults.
+    void restoreDefaults();
+    // The selected modules are switched on or off with the next Apply.
+    void setSwitch(bool on);
 
 private:
+    Lighting_View* page;
     LightingDeck& deck;
     ModeControls& modes;
     Memory_RGB_View* const (&strips)[SlotCount];
-    const MemoryModuleData (&modules)[SlotCount];
+    MemoryModuleData (&modules)[SlotCount];
 };
