@@ -5,13 +5,11 @@
 namespace {
 constexpr int kSize = 15;
 constexpr qreal kInset = 2.5;
-constexpr qreal kStroke = 1.6;
-const QColor kColor(205, 208, 212);
 
 QImage drawClose()
 {
     return Shapes::painted(kSize, kSize, [](QPainter& painter) {
-        painter.setPen(QPen(kColor, kStroke, Qt::SolidLine, Qt::RoundCap));
+        painter.setPen(Shapes::windowGlyphPen());
         painter.drawLine(QPointF(kInset, kInset), QPointF(kSize - kInset, kSize - kInset));
         painter.drawLine(QPointF(kSize - kInset, kInset), QPointF(kInset, kSize - kInset));
     });

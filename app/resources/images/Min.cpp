@@ -6,13 +6,11 @@ namespace {
 constexpr int kWidth = 18;
 constexpr int kHeight = 15;
 constexpr qreal kInset = 3.0;
-constexpr qreal kStroke = 1.6;
-const QColor kColor(205, 208, 212);
 
 QImage drawMin()
 {
     return Shapes::painted(kWidth, kHeight, [](QPainter& painter) {
-        painter.setPen(QPen(kColor, kStroke, Qt::SolidLine, Qt::RoundCap));
+        painter.setPen(Shapes::windowGlyphPen());
         const qreal y = kHeight / 2.0;
         painter.drawLine(QPointF(kInset, y), QPointF(kWidth - kInset, y));
     });

@@ -22,6 +22,12 @@ template <typename Paint> QImage painted(int width, int height, Paint paint)
     return image;
 }
 
+// The pen of the frame's window-button glyphs (close, minimise): thin, light grey, round caps.
+inline QPen windowGlyphPen()
+{
+    return QPen(QColor(205, 208, 212), 1.6, Qt::SolidLine, Qt::RoundCap);
+}
+
 // A round switch knob: a halo (glow or shadow) behind a shaded ball lit from the upper left,
 // with a specular highlight.
 struct KnobLook {
