@@ -3,10 +3,17 @@
 #include "AutostartEntry.h"
 #include "DesktopLanguage.h"
 #include "DesktopNotifier.h"
+#include "ModuleControllers.h"
+#include "OpenRgbOutput.h"
+#include "OutputChoice.h"
+#include "ResumeWatch.h"
+#include "SdkServer.h"
 #include "SimulatedModules.h"
 #include "SleepWatcher.h"
 #include "SystemModules.h"
 
+#include <QCoreApplication>
+#include <QHostAddress>
 #include <QLoggingCategory>
 #include <QRandomGenerator>
 #include <QTime>
@@ -81,10 +88,18 @@ bool ControlService::start(QString* error)
     qCInfo(lcService).noquote() << "modules:" << monitor_->source().description();
     if (!notifier_->hasSessionBus())
         qCInfo(lcService) << "no session bus: temperature warnings go to the log only";
-    if (!sleepWatcher_->isWatching())
-        qCInfo(lcService) << "logind not reachable: no re-apply after suspend";
+    if (!sleepWatcher_->isWatching()) {
+        // Without logind a jump of the wall clock past the monotonic one tells of a resume.
+        qCInfo(lcService) << "logind not reachable: resume noticed by the clocks";
+        connect(new ResumeWatch(this), &ResumeWatch::resumed, this, [this] {
+            qCInfo(lcService) << "resumed: re-applying the lighting";
+            reapplyLighting();
+        });
+    }
     syncAutostart();
 
+    if (!startOpenRgb(error))
+        return false;
     if (!server_.listen(socketPath_, error))
         return false;
     monitor_->start();
@@ -108,6 +123,10 @@ void ControlService::stop()
 {
     frameTimer_.stop();
     music_.stop();
+    if (sdkServer_)
+        sdkServer_->close();
+    sinks_.clear();
+    output_.reset();
     broadcastTimer_.stop();
     if (monitor_)
         monitor_->disconnect(this);
@@ -150,6 +169,12 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
         }
         applied = request.seq;
     }
+    // The user's own change to a module ends an SDK client's direct control of it.
+    if (request.type == nxproto::MessageType::SetLighting ||
+        request.type == nxproto::MessageType::SetColors)
+        leaveDirect(request.slot);
+    else if (request.type == nxproto::MessageType::SetProfile)
+        leaveDirect(-1);
     // A request that leaves the state as it was is acknowledged, but is no change: no push to
     // the others, no light-mode event, no save.
     const uint32_t changes = nxproto::applyRequest(state_, request);
@@ -170,7 +195,7 @@ void ControlService::welcome(ClientConnection* client)
     message.changes = nxproto::ChangeAll;
     message.state = state_;
     client->send(nxproto::encodeState(message));
-    client->send(nxproto::encodeHardware(monitor_->info()));
+    client->send(nxproto::encodeHardware(hardwareInfo()));
 }
 
 void ControlService::scheduleBroadcast()
@@ -188,6 +213,8 @@ void ControlService::broadcastState()
     message.changes = pendingChanges_;
     message.state = state_;
     pendingChanges_ = 0;
+    if (sdkServer_ && (message.changes & (nxproto::ChangeLighting | nxproto::ChangeProfile)))
+        sdkServer_->setModules(ModuleControllers::fromHardware(hardwareInfo(), state_));
     if (message.changes != 0)
         updateRendering();
     const auto clients = server_.clients();
@@ -207,7 +234,10 @@ void ControlService::broadcastState()
 
 void ControlService::broadcastHardware()
 {
-    const std::vector<uint8_t> frame = nxproto::encodeHardware(monitor_->info());
+    const nxproto::HardwareInfo hardware = hardwareInfo();
+    if (sdkServer_)
+        sdkServer_->setModules(ModuleControllers::fromHardware(hardware, state_));
+    const std::vector<uint8_t> frame = nxproto::encodeHardware(hardware);
     const auto clients = server_.clients();
     for (ClientConnection* client : clients)
         client->send(frame);
@@ -229,7 +259,7 @@ void ControlService::removeFrameSink(int id)
 
 bool ControlService::framesWanted() const
 {
-    if (!sinks_.empty())
+    if (!sinks_.empty() || (sdkServer_ && sdkServer_->sessionCount() > 0))
         return true;
     const auto& clients = server_.clients();
     return std::any_of(clients.begin(), clients.end(),
@@ -262,7 +292,8 @@ void ControlService::renderFrame()
     scene.hour = now.hour();
     scene.minute = now.minute();
     scene.second = now.second() + now.msec() / 1000.0;
-    if (EffectRenderer::wantsMusic(state_, monitor_->info())) {
+    const nxproto::HardwareInfo hardware = hardwareInfo();
+    if (EffectRenderer::wantsMusic(state_, hardware)) {
         if (!music_.started())
             qCInfo(lcService) << "Party: listening for the desktop's music";
         music_.start();
@@ -274,11 +305,13 @@ void ControlService::renderFrame()
     }
 
     nxproto::PreviewMessage message;
-    const bool animated = EffectRenderer::render(state_, monitor_->info(), scene, message.colors);
+    const bool animated = EffectRenderer::render(state_, hardware, scene, message.colors);
+    // An SDK client's colours replace the rendered ones of the modules it drives.
+    direct_.apply(message.colors);
     // The load rule overrides every LED of every module while it holds.
     if (const std::optional<COLORREF> color = rules_->loadOverride()) {
         for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
-            const int leds = qBound(0, monitor_->info().modules[slot].ledNum, nxproto::kLedCount);
+            const int leds = qBound(0, hardware.modules[slot].ledNum, nxproto::kLedCount);
             std::fill(message.colors[slot], message.colors[slot] + leds, *color);
         }
     }
@@ -293,7 +326,8 @@ void ControlService::renderFrame()
     message.frame = ++frameNumber_;
     lastFrame_ = message;
     haveFrame_ = true;
-
+    if (sdkServer_)
+        sdkServer_->setFrame(message.colors);
     std::vector<uint8_t> frame;
     const auto clients = server_.clients();
     for (ClientConnection* client : clients) {
@@ -362,4 +396,89 @@ void ControlService::retrySave()
 {
     if (commit())
         scheduleBroadcast(); // the acknowledgements that waited
+}
+
+nxproto::HardwareInfo ControlService::hardwareInfo() const
+{
+    nxproto::HardwareInfo info = monitor_->info();
+    if (output_)
+        output_->report(info);
+    return info;
+}
+
+bool ControlService::startOpenRgb(QString* error)
+{
+    OutputChoice choice;
+    std::string reason;
+    if (OutputChoice::parse(simulation_.output, &choice, &reason) && choice.openrgb) {
+        output_ = std::make_unique<OpenRgbOutput>(QString::fromStdString(choice.host), choice.port);
+        connect(output_.get(), &OpenRgbOutput::modulesChanged, this,
+                &ControlService::outputChanged);
+        connect(this, &ControlService::lightingReapplied, output_.get(), &OpenRgbOutput::reapply);
+        output_->start();
+    }
+    if (options_.sdkServerHost.isEmpty())
+        return true;
+    const QHostAddress address(options_.sdkServerHost);
+    if (address.isNull()) {
+        *error = QStringLiteral("--sdk-server needs an IP address, not ") + options_.sdkServerHost;
+        return false;
+    }
+    sdkServer_ =
+        std::make_unique<SdkServer>(direct_, QCoreApplication::applicationVersion().toStdString());
+    sdkServer_->setModules(ModuleControllers::fromHardware(hardwareInfo(), state_));
+    connect(sdkServer_.get(), &SdkServer::lightModeRequested, this,
+            &ControlService::applySdkLightMode);
+    // Clients read the modules' colours, and their direct colours are part of the picture.
+    connect(sdkServer_.get(), &SdkServer::sessionsChanged, this, &ControlService::updateRendering);
+    connect(sdkServer_.get(), &SdkServer::directChanged, this, &ControlService::updateRendering);
+    return sdkServer_->listen(address, options_.sdkServerPort, error);
+}
+
+void ControlService::outputChanged()
+{
+    broadcastHardware();
+    // The output takes frames while it streams; a new listing gets the whole picture again.
+    if (output_->connected() && outputSink_ == 0) {
+        outputSink_ = addFrameSink(
+            [this](const nxproto::PreviewMessage& message) { output_->showFrame(message.colors); });
+    } else if (!output_->connected() && outputSink_ != 0) {
+        removeFrameSink(outputSink_);
+        outputSink_ = 0;
+    }
+    haveFrame_ = false;
+    updateRendering();
+}
+
+void ControlService::leaveDirect(int slot)
+{
+    const bool wasDirect = slot < 0 ? direct_.anyActive() : direct_.active(slot);
+    if (slot < 0)
+        direct_.leaveAll();
+    else
+        direct_.leave(slot);
+    if (wasDirect)
+        updateRendering();
+}
+
+void ControlService::applySdkLightMode(int slot, int lightMode, int lightSpeed)
+{
+    nxproto::Request request;
+    request.type = nxproto::MessageType::SetLighting;
+    request.slot = slot;
+    request.lightMode = lightMode;
+    request.colorMode = state_.module(slot).colorMode;
+    request.lightSpeed = lightSpeed;
+    request.turnOff = state_.module(slot).turnOff;
+    // The session has ended the slot's direct control already.
+    updateRendering();
+    if (!nxproto::validateRequest(request).empty())
+        return;
+    const uint32_t changes = nxproto::applyRequest(state_, request);
+    if (changes == 0)
+        return;
+    // Saved and pushed like a panel's change.
+    pendingChanges_ |= changes;
+    dirty_ = true;
+    scheduleBroadcast();
 }

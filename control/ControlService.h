@@ -2,6 +2,7 @@
 
 #include "ControlServer.h"
 #include "ControlState.h"
+#include "DirectLighting.h"
 #include "EffectRenderer.h"
 #include "HardwareMonitor.h"
 #include "MusicCapture.h"
@@ -21,6 +22,8 @@
 #include <unordered_map>
 
 class DesktopNotifier;
+class OpenRgbOutput;
+class SdkServer;
 class SleepWatcher;
 
 // The control service: owns the lighting state, applies the clients' requests, pushes every
@@ -52,6 +55,9 @@ public:
 
     const nxproto::ControlState& state() const { return state_; }
     const SimulationConfig& simulation() const { return simulation_; }
+    // What the service reports: the monitor's facts, with the modules of the output when one
+    // drives real LEDs.
+    nxproto::HardwareInfo hardwareInfo() const;
 
     // Outputs that want every rendered frame (the LED drivers). The service renders only while
     // a preview subscriber or a sink wants frames, and sends a picture again only when it changed.
@@ -83,6 +89,11 @@ private:
     // Writes the state if it has unsaved changes; true when everything is on disk.
     bool commit();
     void retrySave();
+    bool startOpenRgb(QString* error);
+    void outputChanged();
+    // Ends an SDK client's direct control of the slot (of all slots when -1).
+    void leaveDirect(int slot);
+    void applySdkLightMode(int slot, int lightMode, int lightSpeed);
 
     ServiceOptions options_;
     QString socketPath_;
@@ -113,4 +124,8 @@ private:
     MusicCapture music_; // open only while a Party mode is rendered
     nxproto::PreviewMessage lastFrame_;
     bool haveFrame_ = false;
+    DirectLighting direct_;
+    std::unique_ptr<OpenRgbOutput> output_;
+    std::unique_ptr<SdkServer> sdkServer_;
+    int outputSink_ = 0;
 };

@@ -1,11 +1,20 @@
 #include "ServiceOptions.h"
 
+#include "OutputChoice.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
 
-bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool* exitNow)
+bool ServiceOptions::parse(const QStringList& givenArguments, QString* message, bool* exitNow)
 {
+    // --sdk-server takes an optional value, which the parser cannot express.
+    QStringList arguments = givenArguments;
+    const QString bareSdkServer = QStringLiteral("--sdk-server");
+    for (QString& argument : arguments) {
+        if (argument == bareSdkServer)
+            argument = bareSdkServer + QStringLiteral("=127.0.0.1:6743");
+    }
     *exitNow = false;
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -29,6 +38,19 @@ bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool*
         QStringLiteral("model"),
         QStringLiteral("Model codes, comma-separated, given to the modules in turn."),
         QStringLiteral("codes"));
+    const QCommandLineOption outputOption(
+        QStringLiteral("output"),
+        QStringLiteral("Where the lighting goes: none, or openrgb[:HOST:PORT] for the DRAM "
+                       "controllers of an OpenRGB SDK server (127.0.0.1:6742 by default). Kept "
+                       "in the state file."),
+        QStringLiteral("output"));
+    const QCommandLineOption sdkServerOption(
+        QStringLiteral("sdk-server"),
+        QStringLiteral("Let OpenRGB SDK clients drive the modules, on 127.0.0.1:6743 unless "
+                       "ADDRESS:PORT is given."),
+        QStringLiteral("address"));
+    parser.addOption(outputOption);
+    parser.addOption(sdkServerOption);
     parser.addOption(modulesOption);
     parser.addOption(rootOption);
     parser.addOption(ledsOption);
@@ -100,6 +122,28 @@ bool ServiceOptions::parse(const QStringList& arguments, QString* message, bool*
         }
         models = codes;
     }
+    if (parser.isSet(outputOption)) {
+        const std::string text = parser.value(outputOption).toStdString();
+        OutputChoice choice;
+        std::string error;
+        if (!OutputChoice::parse(text, &choice, &error)) {
+            *message = QStringLiteral("--output: ") + QString::fromStdString(error);
+            return false;
+        }
+        output = choice.text();
+    }
+    if (parser.isSet(sdkServerOption)) {
+        std::string host = "127.0.0.1";
+        uint16_t port = 6743;
+        std::string error;
+        if (!OutputChoice::parseAddress(parser.value(sdkServerOption).toStdString(), &host, &port,
+                                        &error)) {
+            *message = QStringLiteral("--sdk-server: ") + QString::fromStdString(error);
+            return false;
+        }
+        sdkServerHost = QString::fromStdString(host);
+        sdkServerPort = port;
+    }
     return true;
 }
 
@@ -111,5 +155,7 @@ SimulationConfig ServiceOptions::apply(SimulationConfig stored) const
         stored.leds = *leds;
     if (models)
         stored.models = *models;
+    if (output)
+        stored.output = *output;
     return stored;
 }

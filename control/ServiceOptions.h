@@ -28,4 +28,8 @@ public:
     std::optional<int> modules;
     std::optional<int> leds;
     std::optional<std::vector<std::string>> models;
+    std::optional<std::string> output;
+    // Address of the OpenRGB SDK server; empty when it is off.
+    QString sdkServerHost;
+    quint16 sdkServerPort = 0;
 };

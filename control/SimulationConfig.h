@@ -9,6 +9,8 @@ struct SimulationConfig {
     int modules = 4;
     int leds = 8;
     std::vector<std::string> models{"KX44"};
+    // Where the rendered frames go: "none" or "openrgb[:HOST:PORT]" (see OutputChoice).
+    std::string output = "none";
 
     static constexpr int kMaxModules = 8;
 
@@ -19,6 +21,7 @@ struct SimulationConfig {
 
     bool operator==(const SimulationConfig& other) const
     {
-        return modules == other.modules && leds == other.leds && models == other.models;
+        return modules == other.modules && leds == other.leds && models == other.models &&
+               output == other.output;
     }
 };

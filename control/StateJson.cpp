@@ -1,5 +1,7 @@
 #include "StateJson.h"
 
+#include "OutputChoice.h"
+
 #include <QJsonArray>
 #include <QJsonValue>
 
@@ -202,7 +204,8 @@ QJsonObject toJson(const ControlState& state, const SimulationConfig& simulation
                        {QStringLiteral("profiles"), profiles},
                        {QStringLiteral("notification"), noti},
                        {QStringLiteral("settings"), settings},
-                       {QStringLiteral("simulation"), sim}};
+                       {QStringLiteral("simulation"), sim},
+                       {QStringLiteral("output"), QString::fromStdString(simulation.output)}};
 }
 
 bool fromJson(const QJsonObject& object, ControlState* stateOut, SimulationConfig* simulationOut,
@@ -278,6 +281,16 @@ bool fromJson(const QJsonObject& object, ControlState* stateOut, SimulationConfi
         }
         if (in.ok() && simulation.models.empty())
             in.fail(QStringLiteral("\"models\" is not a non-empty array of codes"));
+    }
+    // Files written before outputs existed have no "output".
+    const QJsonValue output = object.value(QStringLiteral("output"));
+    if (in.ok() && !output.isUndefined()) {
+        OutputChoice choice;
+        std::string reason;
+        if (!output.isString() ||
+            !OutputChoice::parse(output.toString().toStdString(), &choice, &reason))
+            in.fail(QStringLiteral("\"output\" is not none or openrgb[:HOST:PORT]"));
+        simulation.output = choice.text();
     }
     if (!in.ok())
         return false;

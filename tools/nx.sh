@@ -48,13 +48,15 @@ case "${1:-}" in
     ;;
   test)
     install_missing "${packages[@]}" "${test_packages[@]}" "${package_packages[@]}"
+    # The OpenRGB SDK test runs the openrgb-sdk npm client; a Node.js of another origin will do.
+    command -v npm >/dev/null || install_missing nodejs npm
     configure_and_build
     # The protocol decoders under libFuzzer for a minute, from a clang build of their own.
     if command -v clang++ >/dev/null; then
       cmake -S "$here" -B "$build-fuzz" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
         -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
         -DNX_BUILD_FUZZERS=ON -DNX_BUILD_BENCHMARKS=OFF
-      cmake --build "$build-fuzz" -j"$jobs" --target nx_fuzz_frame_decoder
+      cmake --build "$build-fuzz" -j"$jobs" --target nx_fuzz_frame_decoder nx_fuzz_orgb_packets
       ctest --test-dir "$build-fuzz" -R '^fuzz\.' --output-on-failure
     fi
     # The whole suite last, so that its summary closes the output.

@@ -1,0 +1,3 @@
+#include "OrgbLog.h"
+
+Q_LOGGING_CATEGORY(lcOpenRgb, "norvalex.openrgb")

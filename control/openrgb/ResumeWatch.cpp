@@ -1,0 +1,29 @@
+#include "ResumeWatch.h"
+
+#include <QDateTime>
+
+#include <cstdlib>
+
+ResumeWatch::ResumeWatch(QObject* parent) : QObject(parent)
+{
+    monotonic_.start();
+    timer_.setInterval(kTickMs);
+    connect(&timer_, &QTimer::timeout, this, &ResumeWatch::tick);
+    timer_.start();
+    tick();
+}
+
+bool ResumeWatch::check(qint64 wallMs, qint64 monotonicMs)
+{
+    const bool jumped = lastWall_ >= 0 &&
+                        std::llabs((wallMs - lastWall_) - (monotonicMs - lastMonotonic_)) > kGapMs;
+    lastWall_ = wallMs;
+    lastMonotonic_ = monotonicMs;
+    return jumped;
+}
+
+void ResumeWatch::tick()
+{
+    if (check(QDateTime::currentMSecsSinceEpoch(), monotonic_.elapsed()))
+        emit resumed();
+}

@@ -1,0 +1,410 @@
+// The service's SDK server, run for real: our own output drives it, hostile packets are shut
+// out, a second service drives the first through --output=openrgb, and the openrgb-sdk npm
+// client talks to it.
+
+#include "ControllerData.h"
+#include "Messages.h"
+#include "OpenRgbOutput.h"
+#include "RawClient.h"
+#include "SdkProbe.h"
+#include "SdkServer.h"
+#include "ServiceOptions.h"
+#include "ServiceProcess.h"
+#include "TestEnvironment.h"
+
+#include <QtTest>
+
+namespace {
+
+QString dir(const QString& name)
+{
+    const QString path = TestEnvironment::root().path() + QLatin1Char('/') + name;
+    QDir().mkpath(path);
+    QFile::setPermissions(path,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    return path;
+}
+
+QString sdkArgument(quint16 port)
+{
+    return QStringLiteral("--sdk-server=127.0.0.1:%1").arg(port);
+}
+
+bool controllerData(SdkProbe& probe, uint32_t index, orgb::Controller* out)
+{
+    probe.send(index, orgb::RequestControllerData, orgb::encodeU32(orgb::kProtocolVersion));
+    orgb::Packet packet;
+    std::string error;
+    return probe.waitFor(orgb::RequestControllerData, &packet) &&
+           orgb::decodeController(packet.body, orgb::kProtocolVersion, out, &error);
+}
+
+bool anyLit(const std::vector<orgb::Color>& colors)
+{
+    return std::any_of(colors.begin(), colors.end(), [](orgb::Color c) { return c != 0; });
+}
+
+// Reads the panel's frames of `type` until one satisfies `accept`. Not for QTRY_*: those
+// evaluate their condition more than once, and a still picture is sent only once.
+template <typename Decode>
+bool nextMatching(RawClient& panel, nxproto::MessageType type, Decode accept, int timeoutMs)
+{
+    QElapsedTimer clock;
+    clock.start();
+    for (qint64 left = timeoutMs; left > 0; left = timeoutMs - clock.elapsed()) {
+        nxproto::Frame frame;
+        if (panel.waitFor(type, &frame, int(left)) && accept(frame))
+            return true;
+    }
+    return false;
+}
+
+QByteArray bytes(const std::vector<uint8_t>& data)
+{
+    return QByteArray(reinterpret_cast<const char*>(data.data()), int(data.size()));
+}
+
+} // namespace
+
+class TestOpenRgbService : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void commandLine_data();
+    void commandLine();
+    void outputDrivesOurServer();
+    void hostilePacketsCloseOnlyTheirConnection_data();
+    void hostilePacketsCloseOnlyTheirConnection();
+    void serviceDrivesService();
+    void serverTellsOfDeviceListChanges();
+    void npmClient();
+};
+
+void TestOpenRgbService::commandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("output"); // empty when refused
+    QTest::addColumn<QString>("sdkServer");
+    QTest::newRow("neither") << QStringList() << "unset"
+                             << "";
+    QTest::newRow("output default") << QStringList{"--output=openrgb"} << "openrgb:127.0.0.1:6742"
+                                    << "";
+    QTest::newRow("output elsewhere")
+        << QStringList{"--output", "openrgb:pc:7000"} << "openrgb:pc:7000"
+        << "";
+    QTest::newRow("output off") << QStringList{"--output=none"} << "none"
+                                << "";
+    QTest::newRow("bad output") << QStringList{"--output=wled"} << ""
+                                << "";
+    QTest::newRow("bad output port") << QStringList{"--output=openrgb:h:99999"} << ""
+                                     << "";
+    QTest::newRow("server default") << QStringList{"--sdk-server"} << "unset"
+                                    << "127.0.0.1:6743";
+    QTest::newRow("server named") << QStringList{"--sdk-server=0.0.0.0:7000"} << "unset"
+                                  << "0.0.0.0:7000";
+    QTest::newRow("server port only") << QStringList{"--sdk-server=:7001"} << "unset"
+                                      << "127.0.0.1:7001";
+    QTest::newRow("bad server") << QStringList{"--sdk-server=1.2.3.4:x"} << ""
+                                << "";
+}
+
+void TestOpenRgbService::commandLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, output);
+    QFETCH(QString, sdkServer);
+    ServiceOptions options;
+    QString message;
+    bool exitNow = false;
+    const bool ok = options.parse(QStringList{QStringLiteral("norvalex-control")} + arguments,
+                                  &message, &exitNow);
+    QCOMPARE(ok, !output.isEmpty());
+    if (!ok) {
+        QVERIFY(message.startsWith(QStringLiteral("--")));
+        return;
+    }
+    QCOMPARE(options.output ? QString::fromStdString(*options.output) : QStringLiteral("unset"),
+             output);
+    QCOMPARE(options.sdkServerHost.isEmpty() ? QString()
+                                             : options.sdkServerHost + QLatin1Char(':') +
+                                                   QString::number(options.sdkServerPort),
+             sdkServer);
+    // The option overrides the stored output for the run.
+    SimulationConfig stored;
+    stored.output = "openrgb:stored:1";
+    QCOMPARE(QString::fromStdString(options.apply(stored).output),
+             options.output ? output : QStringLiteral("openrgb:stored:1"));
+}
+
+void TestOpenRgbService::outputDrivesOurServer()
+{
+    const quint16 port = freePort();
+    ServiceProcess service(dir("a/run"), dir("a/config"));
+    QVERIFY(service.start(
+        {sdkArgument(port), QStringLiteral("--modules=4"), QStringLiteral("--leds=8")}));
+
+    // A connected SDK client is enough for the service to render: the modules show their
+    // lighting, not Direct mode.
+    SdkProbe probe;
+    QVERIFY(probe.connectTo(port));
+    orgb::Controller seen;
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 1, &seen) && anyLit(seen.colors), 10000);
+    QVERIFY(seen.activeMode != 0);
+
+    OpenRgbOutput output(QStringLiteral("127.0.0.1"), port);
+    output.start();
+    QTRY_VERIFY_WITH_TIMEOUT(output.connected(), 10000);
+    QCOMPARE(output.protocolVersion(), orgb::kProtocolVersion);
+    QCOMPARE(output.modules().size(), std::size_t(4));
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(output.modules()[std::size_t(i)].location, "Slot " + std::to_string(i + 1));
+        QCOMPARE(output.modules()[std::size_t(i)].leds, 8);
+        QCOMPARE(output.modules()[std::size_t(i)].directMode, 0);
+    }
+
+    // The frames we send are what the service's modules then show.
+    FrameOutput::Colors frame = {};
+    for (int slot = 0; slot < 4; ++slot)
+        for (int led = 0; led < 8; ++led)
+            frame[slot][led] = COLORREF(0x010203 * (slot * 8 + led + 1));
+    output.showFrame(frame);
+    QTRY_VERIFY(controllerData(probe, 3, &seen) &&
+                seen.colors == std::vector<orgb::Color>(frame[3], frame[3] + 8));
+    QCOMPARE(seen.activeMode, 0);
+    QCOMPARE(seen.type, int32_t(orgb::DeviceDram));
+    QCOMPARE(seen.modes[0].name, std::string("Direct"));
+    QCOMPARE(seen.modes[6].name, std::string("Wave"));
+
+    // The panel's preview shows them too.
+    RawClient panel;
+    QVERIFY(panel.connectTo(service.socketPath()));
+    nxproto::Request preview;
+    preview.type = nxproto::MessageType::SetPreview;
+    preview.preview = true;
+    panel.send(preview);
+    nxproto::PreviewMessage shown;
+    QVERIFY(nextMatching(
+        panel, nxproto::MessageType::Preview,
+        [&](const nxproto::Frame& message) {
+            return nxproto::decodePreview(message, shown, nullptr) &&
+                   std::equal(frame[2], frame[2] + 8, shown.colors[2]);
+        },
+        10000));
+
+    // Until the user changes that module on the panel: its own lighting comes back.
+    panel.send(lightingRequest(2, 6));
+    QVERIFY(nextMatching(
+        panel, nxproto::MessageType::Preview,
+        [&](const nxproto::Frame& message) {
+            return nxproto::decodePreview(message, shown, nullptr) &&
+                   !std::equal(frame[2], frame[2] + 8, shown.colors[2]) &&
+                   std::equal(frame[3], frame[3] + 8, shown.colors[3]);
+        },
+        10000));
+}
+
+void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection_data()
+{
+    QTest::addColumn<QByteArray>("packet");
+    std::vector<uint8_t> leds = orgb::encodeLedUpdate({1, 2});
+    leds[0] = 99; // data_size disagrees
+    std::vector<uint8_t> huge = orgb::encodePacket(0, orgb::UpdateLeds);
+    huge[14] = 0x20; // 2 MiB body announced
+    QByteArray magic = bytes(orgb::encodePacket(0, orgb::RequestControllerCount));
+    magic[0] = 'X';
+    QTest::newRow("wrong magic") << magic;
+    QTest::newRow("inner size disagrees") << bytes(orgb::encodePacket(0, orgb::UpdateLeds, leds));
+    QTest::newRow("body past 1 MiB") << bytes(huge);
+    QTest::newRow("unknown id") << bytes(orgb::encodePacket(0, 4242));
+    QTest::newRow("device out of range")
+        << bytes(orgb::encodePacket(2, orgb::UpdateLeds, orgb::encodeLedUpdate({1})));
+    QTest::newRow("LED out of range")
+        << bytes(orgb::encodePacket(0, orgb::UpdateSingleLed, orgb::encodeSingleLedUpdate(5, 1)));
+    QTest::newRow("zone out of range")
+        << bytes(orgb::encodePacket(0, orgb::UpdateZoneLeds, orgb::encodeZoneLedUpdate(1, {1})));
+    QTest::newRow("mode out of range") << bytes(
+        orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)));
+    QTest::newRow("data request of 2 bytes")
+        << bytes(orgb::encodePacket(0, orgb::RequestControllerData, {1, 0}));
+}
+
+void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection()
+{
+    QFETCH(QByteArray, packet);
+    const quint16 port = freePort();
+    ServiceProcess service(dir("h/run"), dir("h/config"));
+    QVERIFY(service.start(
+        {sdkArgument(port), QStringLiteral("--modules=2"), QStringLiteral("--leds=5")}));
+    SdkProbe bystander;
+    QVERIFY(bystander.connectTo(port));
+    SdkProbe attacker;
+    QVERIFY(attacker.connectTo(port));
+    attacker.sendBytes(packet);
+    QVERIFY(attacker.waitForClose());
+    QVERIFY(service.isRunning());
+    bystander.send(0, orgb::RequestControllerCount);
+    orgb::Packet answer;
+    QVERIFY(bystander.waitFor(orgb::RequestControllerCount, &answer));
+    QCOMPARE(answer.body, orgb::encodeU32(2));
+    QVERIFY(service.terminate());
+}
+
+void TestOpenRgbService::serviceDrivesService()
+{
+    // Service A plays the OpenRGB server with two modules; service B drives them, told so by
+    // the "output" key of its state file.
+    const quint16 port = freePort();
+    ServiceProcess a(dir("sa/run"), dir("sa/config"));
+    QVERIFY(
+        a.start({sdkArgument(port), QStringLiteral("--modules=2"), QStringLiteral("--leds=5")}));
+    ServiceProcess b(dir("sb/run"), dir("sb/config"));
+    QVERIFY(b.start({QStringLiteral("--modules=0")}));
+    QVERIFY(b.terminate());
+    QFile state(dir("sb/config") + QStringLiteral("/norvalex/control-state.json"));
+    QVERIFY(state.open(QIODevice::ReadOnly));
+    QByteArray json = state.readAll();
+    state.close();
+    QVERIFY(json.contains("\"output\": \"none\""));
+    json.replace("\"output\": \"none\"",
+                 QStringLiteral("\"output\": \"openrgb:127.0.0.1:%1\"").arg(port).toUtf8());
+    QVERIFY(state.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    state.write(json);
+    state.close();
+    // B is itself an SDK server too, for the tool further down.
+    const quint16 portB = freePort();
+    QVERIFY(b.start({sdkArgument(portB)}));
+
+    // B reports A's modules to its panel.
+    RawClient panel;
+    QVERIFY(panel.connectTo(b.socketPath()));
+    nxproto::HardwareInfo info;
+    QVERIFY(nextMatching(
+        panel, nxproto::MessageType::Hardware,
+        [&](const nxproto::Frame& frame) {
+            return nxproto::decodeHardware(frame, info, nullptr) && info.memoryCount == 2;
+        },
+        15000));
+    QCOMPARE(info.modules[0].ledNum, 5);
+    QVERIFY(info.modules[1].present);
+    QCOMPARE(info.modules[0].modelCode, std::string("KX44"));
+    QCOMPARE(info.modules[0].type, std::string("NORVALEX DRAM KX44"));
+
+    // B renders its lighting onto A: A's slot 0 goes into Direct mode.
+    SdkProbe probe;
+    QVERIFY(probe.connectTo(port));
+    orgb::Controller seen;
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && seen.activeMode == 0, 10000);
+    // B renders for its output alone (its panel wants no preview): A's module shows B's
+    // picture, not the black that B's output starts from.
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && anyLit(seen.colors), 10000);
+
+    // A tool driving B's second module directly reaches A's LEDs through B's output.
+    SdkProbe tool;
+    QVERIFY(tool.connectTo(portB));
+    const std::vector<orgb::Color> colors{0x102030, 0x405060, 0x708090, 0xA0B0C0, 0xD0E0F0};
+    tool.send(1, orgb::UpdateLeds, orgb::encodeLedUpdate(colors));
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 1, &seen) && seen.colors == colors, 10000);
+
+    // A's server going away leaves B running, still reporting the modules, but with a time
+    // stamp that no longer advances, so the panel sees the data go stale.
+    QVERIFY(a.terminate());
+    nxproto::HardwareInfo later;
+    QVERIFY(nextMatching(
+        panel, nxproto::MessageType::Hardware,
+        [&](const nxproto::Frame& frame) { return nxproto::decodeHardware(frame, info, nullptr); },
+        5000));
+    QTest::qWait(2200);
+    nxproto::Frame frame;
+    QVERIFY(panel.waitFor(nxproto::MessageType::Hardware, &frame, 3000));
+    QVERIFY(nxproto::decodeHardware(frame, later, nullptr));
+    QCOMPARE(later.memoryCount, 2);
+    QVERIFY(later.updateTime <= info.updateTime);
+    QVERIFY(b.isRunning());
+    QVERIFY(b.terminate());
+}
+
+void TestOpenRgbService::serverTellsOfDeviceListChanges()
+{
+    DirectLighting direct;
+    SdkServer server(direct, "1.0");
+    QString error;
+    QVERIFY2(server.listen(QHostAddress::LocalHost, 0, &error), qPrintable(error));
+    SdkModule module;
+    module.leds = 8;
+    module.model = "KX44";
+    server.setModules({module});
+    QTcpSocket client;
+    client.connectToHost(QHostAddress::LocalHost, server.port());
+    QVERIFY(client.waitForConnected(5000));
+    QTRY_COMPARE(server.sessionCount(), 1);
+
+    // Same devices with another light mode: nothing to tell.
+    SdkModule changedMode = module;
+    changedMode.lightMode = 3;
+    server.setModules({changedMode});
+    QTest::qWait(100);
+    QCOMPARE(client.bytesAvailable(), 0);
+
+    // A second module, then one with other LEDs: each time DEVICE_LIST_UPDATED.
+    SdkModule second = module;
+    second.slot = 1;
+    server.setModules({module, second});
+    second.leds = 5;
+    server.setModules({module, second});
+    QTRY_COMPARE(client.bytesAvailable(), qint64(2 * orgb::kHeaderSize));
+    const std::vector<uint8_t> expected = orgb::encodePacket(0, orgb::DeviceListUpdated);
+    QCOMPARE(client.read(orgb::kHeaderSize), bytes(expected));
+
+    // The session ends with its client.
+    client.abort();
+    QTRY_COMPARE(server.sessionCount(), 0);
+}
+
+void TestOpenRgbService::npmClient()
+{
+    const QString node = QStandardPaths::findExecutable(QStringLiteral("node"));
+    if (node.isEmpty())
+        QSKIP("node is not installed: the openrgb-sdk client test needs Node.js");
+    const QString modules = QStringLiteral(NX_NPM_DIR "/node_modules/openrgb-sdk");
+    if (!QFile::exists(modules + QStringLiteral("/package.json")))
+        QFAIL("openrgb-sdk is not installed in the build tree (test openrgb.npm_install)");
+
+    const quint16 port = freePort();
+    ServiceProcess service(dir("n/run"), dir("n/config"));
+    QVERIFY(service.start(
+        {sdkArgument(port), QStringLiteral("--modules=3"), QStringLiteral("--leds=8")}));
+    QProcess script;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("NODE_PATH"), QStringLiteral(NX_NPM_DIR "/node_modules"));
+    script.setProcessEnvironment(env);
+    script.start(node, {QStringLiteral(NX_SOURCE_DIR "/tests/openrgb/sdk_client.js"),
+                        QString::number(port)});
+    QVERIFY(script.waitForFinished(60000));
+    const QByteArray output = script.readAllStandardOutput();
+    QVERIFY2(script.exitCode() == 0,
+             QByteArray(output + script.readAllStandardError()).constData());
+
+    // What the client left behind: slot 1 in Direct with its colours, slot 2 in Pulse.
+    SdkProbe probe;
+    QVERIFY(probe.connectTo(port));
+    orgb::Controller one;
+    QVERIFY(controllerData(probe, 1, &one));
+    QCOMPARE(one.activeMode, 0);
+    QCOMPARE(one.colors.front(), orgb::Color(0x030201));
+    QCOMPARE(one.colors.back(), orgb::Color(0x0000FF));
+    orgb::Controller two;
+    QVERIFY(controllerData(probe, 2, &two));
+    QCOMPARE(two.modes[std::size_t(two.activeMode)].name, std::string("Pulse"));
+
+    // And the change of mode reached the panel's state.
+    RawClient panel;
+    QVERIFY(panel.connectTo(service.socketPath()));
+    nxproto::StateMessage state;
+    QVERIFY(panel.waitForState(&state));
+    QCOMPARE(state.state.module(2).lightMode, 4);
+    QCOMPARE(state.state.module(2).lightSpeed, 0);
+}
+
+QTEST_GUILESS_MAIN(TestOpenRgbService)
+#include "tst_openrgb_service.moc"
