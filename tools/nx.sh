@@ -16,8 +16,8 @@ packages=(
   libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )
-test_packages=(g++-mingw-w64-x86-64-posix pulseaudio dbus-daemon clang libclang-rt-14-dev
-               xvfb xauth xdotool imagemagick x11-utils libx11-dev)
+test_packages=(g++-mingw-w64-x86-64-posix pulseaudio dbus-daemon dbus-bin dbus-x11 clang libclang-rt-14-dev
+               xvfb xauth xdotool imagemagick x11-utils libx11-dev at-spi2-core python3-pyatspi)
 # Checks of the installed tree and of the Debian package.
 package_packages=(dpkg-dev fakeroot file lintian desktop-file-utils appstream systemd bash-completion)
 

@@ -1,4 +1,5 @@
 // Entry point of the panel: one instance per user, then the controller.
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "CommandLine.h"
 #include "GraphicalSession.h"
@@ -67,6 +68,7 @@ int main(int argc, char* argv[])
     // Lets the desktop match the window to its entry (Wayland app id, task bar icon).
     QGuiApplication::setDesktopFileName(QStringLiteral(NX_APP_ID));
     PanelMessageBox::install();
+    Accessibility::install();
 
     bool alreadyRunning = false;
     Platform::MutexHandle instance = Platform::createMutex(L"NORVALEX RGB.exe", &alreadyRunning);

@@ -2,6 +2,7 @@
 
 #include "ChannelValidator.h"
 #include "LightingLook.h"
+#include "Lighting_View.h"
 #include "Log.h"
 #include "RGB_Palette.h"
 
@@ -58,6 +59,7 @@ ColorEntry::ColorEntry(QWidget* deck) : QObject(deck)
         field->setGeometry(QRect(QPoint(left + kRgbEditX, top), kRgbEditSize));
         fields[c] = field;
     }
+    nameChannels();
 
     for (QSlider* slider : sliders)
         connect(slider, &QSlider::valueChanged, this, &ColorEntry::showSwatch);
@@ -89,8 +91,23 @@ COLORREF ColorEntry::commit(int channel)
     QLineEdit* field = fields[channel];
     qCDebug(lcPanel) << "Lighting_View::commitLineEdit" << field->objectName() << field->text();
     sliders[channel]->setValue(field->text().toInt());
-    field->clearFocus();
+    // Return hands the focus to the channel's slider rather than dropping it.
+    if (field->hasFocus())
+        sliders[channel]->setFocus(Qt::TabFocusReason);
+    else
+        field->clearFocus();
     return enteredColor();
+}
+
+void ColorEntry::nameChannels()
+{
+    const QString names[] = {Lighting_View::tr("Red"), Lighting_View::tr("Green"),
+                             Lighting_View::tr("Blue")};
+    for (int c = 0; c < ChannelCount; ++c) {
+        sliders[c]->setAccessibleName(names[c]);
+        fields[c]->setAccessibleName(names[c]);
+    }
+    wheel->setAccessibleName(Lighting_View::tr("Color wheel"));
 }
 
 void ColorEntry::filterFieldEvent(QObject* watched, QEvent* event)

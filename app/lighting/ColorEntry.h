@@ -43,6 +43,8 @@ public:
     void filterFieldEvent(QObject* watched, QEvent* event);
     // Enables or disables every channel label, slider and field (the wheel stays as it is).
     void setChannelsEnabled(bool enabled);
+    // Gives the sliders, fields and wheel their translated accessible names.
+    void nameChannels();
 
 private:
     void showSwatch();

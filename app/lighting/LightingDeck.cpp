@@ -1,5 +1,6 @@
 #include "LightingDeck.h"
 
+#include "Accessibility.h"
 #include "ColorEntry.h"
 #include "LightModeTable.h"
 #include "LightingLook.h"
@@ -78,9 +79,9 @@ void LightingDeck::createModeControls(QWidget* deck)
     btn_LightMode = new QPushButton(Lighting_View::tr("Flow"), deck);
     btn_LightMode->setObjectName(QStringLiteral("btn_LightMode"));
     btn_LightMode->setGeometry(kLightModeRect);
-    // Without focus of its own the button leaves the focus with the open list, so a second click
-    // closes the list instead of reopening it.
-    btn_LightMode->setFocusPolicy(Qt::NoFocus);
+    // Focus from Tab only: a click leaves the focus with the open list, so a second click closes
+    // the list instead of reopening it.
+    Accessibility::makeTabReachable(btn_LightMode);
     btn_LightMode->setStyleSheet(QString::fromLatin1(kLightModeButtonStyle));
 
     label_LightModeArrow = new QLabel(QStringLiteral("\u25BC"), btn_LightMode);
@@ -182,6 +183,20 @@ void LightingDeck::createSwitchAndActions(QWidget* deck)
     btn_Default = new QPushButton(Lighting_View::tr("Default"), deck);
     btn_Default->setObjectName(QStringLiteral("btn_Default"));
     btn_Default->setGeometry(kDefaultRect);
+
+    // On Linux a combo box's name is its current item; its caption is given as its label.
+    label_colorMode->setBuddy(comboBox_ColorMode);
+    label_ligheSpeed->setBuddy(comboBox_LightSpeed);
+    nameControls();
+}
+
+void LightingDeck::nameControls()
+{
+    comboBox_ColorMode->setAccessibleName(label_colorMode->text());
+    comboBox_LightSpeed->setAccessibleName(label_ligheSpeed->text());
+    slider_Light->setAccessibleName(label_Brightness->text());
+    switchButton->setAccessibleName(label_TurnLight->text());
+    btn_LightMode->setAccessibleName(Lighting_View::tr("Light Mode"));
 }
 
 void LightingDeck::retranslate()
@@ -194,6 +209,7 @@ void LightingDeck::retranslate()
     showSwitchLabel(switchButton->isChecked());
     btn_Apply->setText(Lighting_View::tr("Apply"));
     btn_Default->setText(Lighting_View::tr("Default"));
+    nameControls();
     retranslateCombo(comboBox_ColorMode);
     retranslateCombo(comboBox_LightSpeed);
 }

@@ -59,6 +59,7 @@ public:
     QPushButton* btn_Default = nullptr;
 
 private:
+    void nameControls();
     void createModeControls(QWidget* deck);
     void createBrightness(QWidget* deck);
     void createSwitchAndActions(QWidget* deck);

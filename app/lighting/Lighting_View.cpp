@@ -10,6 +10,7 @@
 #include "Memory_RGB_View.h"
 #include "ModeControls.h"
 #include "Palette_draw_rect.h"
+#include "PopupAnchor.h"
 #include "ProfileButtons.h"
 #include "RGB_Palette.h"
 #include "SelectionDeck.h"
@@ -67,9 +68,7 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
     widget_Light_Mode_View->move(kLightModeListRect.topLeft());
     widget_Light_Mode_View->setLightModeMap(modes->lightModeNames());
     widget_Light_Mode_View->hide();
-    // A click on the mode button must not pass the focus on to the page while the list holds
-    // it: the list would close and the click would open it again.
-    deck->btn_LightMode->setFocusProxy(widget_Light_Mode_View);
+    PopupAnchor::tie(deck->btn_LightMode, widget_Light_Mode_View);
 
     palette_draw_rect = new Palette_draw_rect(this);
     palette_draw_rect->setGeometry(0, 0, kPageWidth, kPageHeight);
@@ -88,6 +87,8 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
     LightingWiring::connect(this, {*deck, widget_Light_Mode_View, memoryRGBView,
                                    btn_SelectHorizontal, btn_Profile, btn_Edit, btn_Edit_Cancel,
                                    btn_Edit_Apply, slotLayout->widget_Preview});
+    connect(widget_Light_Mode_View, &Widget_Light_Mode_View::keyboardFinished, this,
+            &Lighting_View::returnFromModeList);
     applyLanguageFonts();
 }
 
@@ -258,14 +259,26 @@ void Lighting_View::slotLightMode()
 {
     qCDebug(lcPanel) << "Lighting_View::slotLightMode";
     if (widget_Light_Mode_View->isHidden()) {
+        // The mode button takes the focus only from the keyboard.
+        const bool byKey = deck->btn_LightMode->hasFocus();
         widget_Light_Mode_View->show();
         widget_Light_Mode_View->raise();
         widget_Light_Mode_View->setFocus(Qt::PopupFocusReason);
+        if (byKey)
+            widget_Light_Mode_View->highlight(currentLightMode);
     } else if (widget_Light_Mode_View->hasFocus()) {
         widget_Light_Mode_View->clearFocus();
     } else {
         widget_Light_Mode_View->hide();
     }
+}
+
+void Lighting_View::returnFromModeList()
+{
+    // Taking the focus back closes the list.
+    deck->btn_LightMode->setFocusProxy(nullptr);
+    deck->btn_LightMode->setFocus(Qt::TabFocusReason);
+    widget_Light_Mode_View->hide();
 }
 
 void Lighting_View::slot_Profile()
@@ -395,6 +408,7 @@ void Lighting_View::updateLanguage_Lighting()
 {
     qCDebug(lcPanel) << "Lighting_View::updateLanguage_Lighting";
     deck->retranslate();
+    deck->colorEntry->nameChannels();
     modes->retranslate();
     widget_Light_Mode_View->setLightModeMap(modes->lightModeNames());
     if (!deck->btn_LightMode->text().isEmpty())
@@ -403,6 +417,7 @@ void Lighting_View::updateLanguage_Lighting()
     btn_Edit_Cancel->setText(tr("Cancel"));
     btn_Edit_Apply->setText(tr("Apply"));
     slotLayout->label_Preview->setText(tr("Preview"));
+    slotLayout->nameRows();
     profiles->retranslate();
     applyLanguageFonts();
 }

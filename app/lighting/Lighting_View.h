@@ -107,6 +107,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+private slots:
+    void returnFromModeList();
+
 private:
     void applyLanguageFonts();
 

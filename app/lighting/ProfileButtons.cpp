@@ -1,5 +1,6 @@
 #include "ProfileButtons.h"
 
+#include "Accessibility.h"
 #include "LightingLook.h"
 #include "Lighting_View.h"
 
@@ -26,7 +27,7 @@ ProfileButtons::ProfileButtons(QWidget* page, QPushButton* (&buttons)[ProfileCou
         QPushButton* button = new QPushButton(caption(id), page);
         button->setObjectName(QStringLiteral("btn_Profile%1").arg(id));
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
+        Accessibility::makeTabReachable(button);
         button->setGeometry(
             QRect(QPoint(kProfileX, kProfileTop + id * kProfilePitch), kProfileSize));
         group->addButton(button, id);

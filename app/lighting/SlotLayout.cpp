@@ -1,5 +1,6 @@
 #include "SlotLayout.h"
 
+#include "Accessibility.h"
 #include "LightingLook.h"
 #include "Lighting_View.h"
 #include "Log.h"
@@ -88,13 +89,20 @@ void SlotLayout::createRowButtons()
         QPushButton* button = new QPushButton(QString(QChar('A' + row)), s.page);
         button->setObjectName(QStringLiteral("btn_SelectHorizontal"));
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
+        Accessibility::makeTabReachable(button);
         button->setStyleSheet(QString::fromLatin1(kRowButtonStyle));
         button->resize(kRowButtonSize, kRowButtonSize);
         button->hide();
         s.rows[row] = button;
     }
     placeRowButtons();
+    nameRows();
+}
+
+void SlotLayout::nameRows()
+{
+    for (int row = 0; row < LedRows; ++row)
+        s.rows[row]->setAccessibleName(Lighting_View::tr("LED row %1").arg(QChar('A' + row)));
 }
 
 void SlotLayout::createEditButtons()

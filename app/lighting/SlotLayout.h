@@ -44,6 +44,8 @@ public:
     explicit SlotLayout(const PageState& state);
     // The Edit, Cancel and Apply buttons, built after the page's profile buttons they follow.
     void createEditButtons();
+    // Gives the LED row buttons their translated accessible names.
+    void nameRows();
     SlotLayout(const SlotLayout&) = delete;
     SlotLayout& operator=(const SlotLayout&) = delete;
 

@@ -1,5 +1,6 @@
 #include "Information_View.h"
 
+#include "AccessibleDisplay.h"
 #include "AppGlobals.h"
 #include "Information_Slots_View.h"
 #include "Log.h"
@@ -97,6 +98,14 @@ Information_View::Information_View(QWidget* parent) : QWidget(parent)
     setObjectName(QStringLiteral("Information_View"));
     setStyleSheet(QString::fromLatin1(kPageStyle));
 
+    // The gauge is painted by the page; this empty widget over it carries its name and value.
+    gauge = new QWidget(this);
+    gauge->setObjectName(QStringLiteral("gauge_MemoryLoad"));
+    gauge->setGeometry(kGaugeRect.toRect());
+    gauge->setAttribute(Qt::WA_TransparentForMouseEvents);
+    AccessibleDisplay::expose(gauge, QAccessible::ProgressBar);
+    describeGauge();
+
     information_Slots_View = new Information_Slots_View(this);
     information_Slots_View->setGeometry(kGridX, kGridY, width() / 2 - kGridX, kGridHeight);
     information_Slots_View->setupSlotButtons(NX_MODULE_COUNT);
@@ -181,6 +190,7 @@ void Information_View::setSystemData1(HWData data)
     label_tRCD->setText(QStringLiteral("RAS# to CAS# Delay (tRCD): ") % QString::number(data.tRCD));
     label_Percent->setText(decimal(data.memoryLoad));
     memoryLoad = data.memoryLoad;
+    describeGauge();
 
     qCDebug(lcPanel) << "Information_View::physicalMemoryUsed:" << data.physicalMemoryUsed;
     for (int i = 0; i < NX_MODULE_COUNT; ++i)
@@ -214,6 +224,7 @@ void Information_View::setHWData(HWData data)
 
     label_Percent->setText(data.memoryLoad < 0 ? na : decimal(data.memoryLoad));
     memoryLoad = data.memoryLoad;
+    describeGauge();
 
     switch (data.channel) {
     case 0:
@@ -269,8 +280,17 @@ void Information_View::updateLanguage_Info()
     label_Dashboard_High->setStyleSheet(
         QString::fromLatin1(currentLanguage == kRussian ? kHighStyleCompact : kHighStyle));
     label_Dashboard->setText(tr("Load"));
+    describeGauge();
     label_Dashboard_Low->setText(tr("Low"));
     label_Dashboard_High->setText(tr("High"));
+}
+
+void Information_View::describeGauge()
+{
+    gauge->setAccessibleName(tr("Load"));
+    AccessibleDisplay::setValue(gauge, memoryLoad < 0
+                                           ? QStringLiteral("N/A")
+                                           : QStringLiteral("%1%").arg(qRound(memoryLoad)));
 }
 
 void Information_View::paintEvent(QPaintEvent* /*event*/)

@@ -34,6 +34,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void describeGauge();
     QLabel* makeLabel(const char* name, const QRect& geometry, Qt::Alignment alignment);
     void drawTrack(QPainter& painter);
     void drawValueArc(QPainter& painter);
@@ -51,4 +52,5 @@ private:
     QLabel* label_Percent = nullptr;
     QLabel* label_Frequency = nullptr;
     double memoryLoad = 0.0;
+    QWidget* gauge = nullptr;
 };

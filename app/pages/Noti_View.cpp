@@ -1,8 +1,11 @@
 #include "Noti_View.h"
 
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "Log.h"
 #include "Platform.h"
+#include "PopupAnchor.h"
+#include "RGB_Palette.h"
 #include "SwitchButton.h"
 #include "Widget_Select_Palette.h"
 
@@ -227,6 +230,7 @@ void Noti_View::createWidgets()
     btn_Loading_Color = new QPushButton(widget_Grid);
     btn_Loading_Color->setFixedSize(kCaptionButtonSize);
     btn_Loading_Color->setCursor(Qt::PointingHandCursor);
+    Accessibility::makeTabReachable(btn_Loading_Color);
     setColorButton(notiEventData.loadingColor);
 
     label_Greater_Loading = createGreaterLabel();
@@ -238,9 +242,8 @@ void Noti_View::createWidgets()
     palette_Select = new Widget_Select_Palette(this);
     palette_Select->setFocusPolicy(Qt::ClickFocus);
     palette_Select->hide();
-    // A press on the swatch leaves the focus with an open pop-up, so that the release can
-    // close it instead of the focus change closing it and the release opening it again.
-    btn_Loading_Color->setFocusProxy(palette_Select);
+    PopupAnchor::tie(btn_Loading_Color, palette_Select);
+    setRowTabOrder();
 }
 
 QLineEdit* Noti_View::createThresholdEdit(const QString& objectName, int minimum, int maximum)
@@ -262,7 +265,7 @@ QPushButton* Noti_View::createCaptionButton(const QString& text)
     auto* button = new QPushButton(text, widget_Grid);
     button->setFixedSize(kCaptionButtonSize);
     button->setFlat(true);
-    button->setFocusPolicy(Qt::NoFocus);
+    Accessibility::makeTabReachable(button);
     return button;
 }
 
@@ -339,6 +342,8 @@ void Noti_View::connectSignals()
 
     connect(btn_Loading_Color, &QPushButton::released, this, &Noti_View::slot_Loading_Color);
     connect(palette_Select, &Widget_Select_Palette::pressRGB, this, &Noti_View::slot_Palette_Color);
+    connect(palette_Select, &Widget_Select_Palette::keyboardFinished, this,
+            &Noti_View::returnFromPalette);
 }
 
 void Noti_View::applyTexts()
@@ -353,6 +358,55 @@ void Noti_View::applyTexts()
     label_Shutdown_CPU->setText(tr("Shutdown PC"));
     label_FanSpeed_CPU->setText(tr("CPU"));
     label_FanSpeed->setText(tr("Set all fans to 100%"));
+    applyAccessibleNames();
+}
+
+void Noti_View::leaveEdit(QLineEdit* edit, QWidget* next)
+{
+    // A value taken with Return hands the focus on to the row's next control instead of dropping
+    // it; a value taken because the focus went elsewhere leaves the focus where it went.
+    if (edit->hasFocus())
+        next->setFocus(Qt::TabFocusReason);
+}
+
+void Noti_View::setRowTabOrder()
+{
+    QWidget* const order[] = {switch_Loading,    lineEdit_Loading,       btn_Percent,
+                              btn_Loading_Color, switch_Shutdown_Memory, lineEdit_Shutdown_Memory,
+                              btn_Unit_Memory,   switch_Shutdown_CPU,    lineEdit_Shutdown_CPU,
+                              btn_Unit_CPU,      switch_FanSpeed,        lineEdit_FanSpeed,
+                              btn_Unit_FanSpeed};
+    for (size_t i = 1; i < sizeof(order) / sizeof(order[0]); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+void Noti_View::applyAccessibleNames()
+{
+    // Each row is named by its source and its action, e.g. "Memory, Shutdown PC".
+    const auto row = [](const QLabel* source, const QLabel* action) {
+        return QStringLiteral("%1, %2").arg(source->text().simplified(),
+                                            action->text().simplified());
+    };
+    const QString threshold = tr("threshold");
+    const QString unit = tr("unit");
+    const QString loading = row(label_Loading, label_Trigger_LED);
+    const QString memory = row(label_Memory, label_Shutdown_Memory);
+    const QString cpu = row(label_CPU, label_Shutdown_CPU);
+    const QString fans = row(label_FanSpeed_CPU, label_FanSpeed);
+    switch_Loading->setAccessibleName(loading);
+    switch_Shutdown_Memory->setAccessibleName(memory);
+    switch_Shutdown_CPU->setAccessibleName(cpu);
+    switch_FanSpeed->setAccessibleName(fans);
+    lineEdit_Loading->setAccessibleName(QStringLiteral("%1, %2").arg(loading, threshold));
+    lineEdit_Shutdown_Memory->setAccessibleName(QStringLiteral("%1, %2").arg(memory, threshold));
+    lineEdit_Shutdown_CPU->setAccessibleName(QStringLiteral("%1, %2").arg(cpu, threshold));
+    lineEdit_FanSpeed->setAccessibleName(QStringLiteral("%1, %2").arg(fans, threshold));
+    btn_Percent->setAccessibleName(QStringLiteral("%1, %2").arg(loading, unit));
+    btn_Unit_Memory->setAccessibleName(QStringLiteral("%1, %2").arg(memory, unit));
+    btn_Unit_CPU->setAccessibleName(QStringLiteral("%1, %2").arg(cpu, unit));
+    btn_Unit_FanSpeed->setAccessibleName(QStringLiteral("%1, %2").arg(fans, unit));
+    btn_Loading_Color->setAccessibleName(QStringLiteral("%1, %2").arg(loading, tr("color")));
+    palette_Select->wheel()->setAccessibleName(btn_Loading_Color->accessibleName());
 }
 
 void Noti_View::updateLanguage_Noti()
@@ -404,7 +458,7 @@ void Noti_View::slot_LineEdit_Loading()
     notiEventData.loadingValue = lineEdit_Loading->text().toInt();
     qCDebug(lcPanel) << "Noti_View::slot_LineEdit_Loading" << notiEventData.loadingValue;
     sendChanged(kItemLoading);
-    lineEdit_Loading->clearFocus();
+    leaveEdit(lineEdit_Loading, btn_Percent);
 }
 
 void Noti_View::slot_LineEdit_Shutdown_Memory()
@@ -413,7 +467,7 @@ void Noti_View::slot_LineEdit_Shutdown_Memory()
     qCDebug(lcPanel) << "Noti_View::slot_LineEdit_Shutdown_Memory"
                      << notiEventData.shutdownMemoryValue;
     sendChanged(kItemShutdownMemory);
-    lineEdit_Shutdown_Memory->clearFocus();
+    leaveEdit(lineEdit_Shutdown_Memory, btn_Unit_Memory);
 }
 
 void Noti_View::slot_LineEdit_Shutdown_CPU()
@@ -421,7 +475,7 @@ void Noti_View::slot_LineEdit_Shutdown_CPU()
     notiEventData.shutdownCPUValue = lineEdit_Shutdown_CPU->text().toInt();
     qCDebug(lcPanel) << "Noti_View::slot_LineEdit_Shutdown_CPU" << notiEventData.shutdownCPUValue;
     sendChanged(kItemShutdownCPU);
-    lineEdit_Shutdown_CPU->clearFocus();
+    leaveEdit(lineEdit_Shutdown_CPU, btn_Unit_CPU);
 }
 
 void Noti_View::slot_LineEdit_FanSpeed()
@@ -429,19 +483,23 @@ void Noti_View::slot_LineEdit_FanSpeed()
     notiEventData.fanSpeedValue = lineEdit_FanSpeed->text().toInt();
     qCDebug(lcPanel) << "Noti_View::slot_LineEdit_FanSpeed" << notiEventData.fanSpeedValue;
     sendChanged(kItemFanSpeed);
-    lineEdit_FanSpeed->clearFocus();
+    leaveEdit(lineEdit_FanSpeed, btn_Unit_FanSpeed);
 }
 
 void Noti_View::slot_Loading_Color()
 {
     qCDebug(lcPanel) << "Noti_View::slot_Loading_Color" << palette_Select->isHidden();
     if (palette_Select->isHidden()) {
+        // The swatch takes the focus only from the keyboard.
+        const bool byKey = btn_Loading_Color->hasFocus();
         const QRect swatch = btn_Loading_Color->geometry();
         palette_Select->move(widget_Grid->x() + swatch.x(),
                              widget_Grid->y() + swatch.y() + swatch.height());
         palette_Select->raise();
         palette_Select->setFocus(Qt::OtherFocusReason);
         palette_Select->show();
+        if (byKey)
+            palette_Select->wheel()->showCursor();
     } else {
         closePalette();
     }
@@ -453,6 +511,14 @@ void Noti_View::closePalette()
 {
     setFocus(Qt::OtherFocusReason);
     palette_Select->hide();
+}
+
+void Noti_View::returnFromPalette()
+{
+    btn_Loading_Color->setFocusProxy(nullptr);
+    if (palette_Select->isVisible())
+        closePalette();
+    btn_Loading_Color->setFocus(Qt::TabFocusReason);
 }
 
 void Noti_View::slot_Palette_Color(COLORREF color)

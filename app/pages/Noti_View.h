@@ -48,6 +48,10 @@ private:
     void connectSignals();
     QLineEdit* createThresholdEdit(const QString& objectName, int minimum, int maximum);
     QPushButton* createCaptionButton(const QString& text);
+    void applyAccessibleNames();
+    void leaveEdit(QLineEdit* edit, QWidget* next);
+    // Tab walks the rows from top to bottom, each from the switch to the unit.
+    void setRowTabOrder();
     QLabel* createGreaterLabel();
     void applyTexts();
     void nameWidgets();
@@ -58,6 +62,8 @@ private:
     void updateWidgetsFromData();
     void setColorButton(COLORREF color);
     void closePalette();
+    // After a pick or Escape in the pop-up, the focus goes back to the swatch.
+    void returnFromPalette();
     void sendChanged(int changedItem);
 
     QRect underlineFor(const QWidget* widget) const;

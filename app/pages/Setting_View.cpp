@@ -1,5 +1,6 @@
 #include "Setting_View.h"
 
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "Log.h"
 #include "SwitchButton.h"
@@ -150,7 +151,7 @@ void Setting_View::createWidgets()
     btn_Language->setFixedSize(kLanguageButtonSize);
     btn_Language->setStyleSheet(QLatin1String(kLanguageButtonStyle));
     btn_Language->setCursor(Qt::PointingHandCursor);
-    btn_Language->setFocusPolicy(Qt::NoFocus);
+    Accessibility::makeTabReachable(btn_Language);
     btn_Language->setText(tr("en"));
 
     switch_AutoUpdate = new SwitchButton(kSwitchSize.width(), kSwitchSize.height(), widget_Grid);
@@ -170,6 +171,12 @@ void Setting_View::createWidgets()
     label_CurrentLocation->setObjectName(QStringLiteral("label_CurrentLocation"));
     label_CurrentLocation->setMinimumSize(kOptionLabelMinimum);
     label_CurrentLocation->setStyleSheet(QLatin1String(kCurrentLocationStyle));
+
+    // Each caption names the control beside it for assistive technology.
+    label_Language->setBuddy(btn_Language);
+    label_AutoUpdate->setBuddy(switch_AutoUpdate);
+    label_AutoRun->setBuddy(switch_AutoRun);
+    label_CurrentLocation->setBuddy(switch_CurrentLocation);
 
     label_Version = new QLabel(widget_Grid);
     label_Version->setFixedSize(kVersionCaptionSize);

@@ -1,5 +1,6 @@
 #include "Main_View.h"
 
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "Clean_View.h"
 #include "Information_Slots_View.h"
@@ -102,6 +103,7 @@ QIcon windowIconSet()
 
 Main_View::Main_View(QWidget* parent) : QWidget(parent)
 {
+    Accessibility::install();
     setWindowTitle(QString::fromLatin1(kWindowTitle));
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     setWindowIcon(windowIconSet());
@@ -163,6 +165,7 @@ QPushButton* Main_View::createMenuButton(const char* name, MenuId id)
     button->setCursor(Qt::PointingHandCursor);
     button->setStyleSheet(menuButtonStyle(objectName));
     buttonGroup_Menu->addButton(button, id);
+    Accessibility::markPageTab(button);
     widget_Menu->layout()->addWidget(button);
     return button;
 }
@@ -199,7 +202,7 @@ void Main_View::createWindowButtons()
     btn_Close->setGeometry(width() - kCloseRightInset, kWindowButtonY, kCloseSize, kCloseSize);
     btn_Close->setStyleSheet(QString::fromLatin1(kCloseStyle));
     btn_Close->setCursor(Qt::PointingHandCursor);
-    btn_Close->setFocusPolicy(Qt::NoFocus);
+    Accessibility::makeTabReachable(btn_Close);
     connect(btn_Close, &QPushButton::released, this, &Main_View::slot_Close);
 
     btn_Min = new QPushButton(this);
@@ -207,8 +210,10 @@ void Main_View::createWindowButtons()
     btn_Min->setGeometry(width() - kMinRightInset, kWindowButtonY, kMinWidth, kMinHeight);
     btn_Min->setStyleSheet(QString::fromLatin1(kMinStyle));
     btn_Min->setCursor(Qt::PointingHandCursor);
-    btn_Min->setFocusPolicy(Qt::NoFocus);
+    Accessibility::makeTabReachable(btn_Min);
     connect(btn_Min, &QPushButton::released, this, &QWidget::showMinimized);
+    applyMenuTexts();
+    placeWindowButtonsLast();
 }
 
 void Main_View::applyMenuTexts()
@@ -217,6 +222,10 @@ void Main_View::applyMenuTexts()
     btn_Lighting->setText(tr("Lighting"));
     btn_Noti->setText(tr("Notification"));
     btn_Setting->setText(tr("Settings"));
+    if (btn_Close) {
+        btn_Close->setAccessibleName(tr("Close"));
+        btn_Min->setAccessibleName(tr("Minimize"));
+    }
 }
 
 void Main_View::placeMenuBar()
@@ -254,6 +263,21 @@ void Main_View::raiseChrome()
         btn_Min->raise();
     if (loading_View)
         loading_View->raise();
+    placeWindowButtonsLast();
+}
+
+void Main_View::placeWindowButtonsLast()
+{
+    if (!btn_Close || !btn_Min)
+        return;
+    // The focus chain is a ring in which new pages join at no fixed place. Minimise, close and
+    // the menu entries are put one after another behind the logo, which takes no focus; so Tab
+    // runs menu, page, minimise, close and back to the menu. (A container as anchor would not
+    // do: Qt places after its last focusable child.)
+    QWidget* const order[] = {label_Logo,   btn_Min,  btn_Close,  btn_Info,
+                              btn_Lighting, btn_Noti, btn_Setting};
+    for (size_t i = 1; i < sizeof(order) / sizeof(order[0]); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 void Main_View::createInformationPage()

@@ -122,6 +122,7 @@ private:
     void leaveOtherPages(QWidget* keep);
     // Keeps the menu and the loading overlay above a page that was just created.
     void raiseChrome();
+    void placeWindowButtonsLast();
 
     void createInformationPage();
     void createLightingPage();

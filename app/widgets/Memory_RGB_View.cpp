@@ -1,8 +1,10 @@
 #include "Memory_RGB_View.h"
 
 #include "AppGlobals.h"
+#include "ColorNames.h"
 #include "Log.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -98,6 +100,18 @@ void Memory_RGB_View::paintLed(int index, COLORREF color)
     if (!button)
         return;
     button->setStyleSheet(ledStyleSheet(color));
+    ledShown[index] = color;
+    nameLed(index);
+}
+
+void Memory_RGB_View::nameLed(int index)
+{
+    const COLORREF color = ledShown[index];
+    const QColor shown(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+    btn_Led[index]->setAccessibleName(tr("Slot %1, LED %2, %3")
+                                          .arg(slotNumber + 1)
+                                          .arg(QChar('A' + index))
+                                          .arg(ColorNames::describe(shown)));
 }
 
 void Memory_RGB_View::setSlotNumber(int slot)
@@ -105,6 +119,21 @@ void Memory_RGB_View::setSlotNumber(int slot)
     slotNumber = slot;
     slotPosition = slot;
     btn_MemorySlot->setText(QString::number(slot + 1));
+    nameButtons();
+}
+
+void Memory_RGB_View::nameButtons()
+{
+    btn_MemorySlot->setAccessibleName(tr("Slot %1").arg(slotNumber + 1));
+    for (int i = 0; i < LedCount; ++i)
+        nameLed(i);
+}
+
+void Memory_RGB_View::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && slotNumber >= 0)
+        nameButtons();
+    QWidget::changeEvent(event);
 }
 
 void Memory_RGB_View::setLEDNumber(int count)

@@ -64,13 +64,19 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void paintLed(int index, COLORREF color);
+    // Names the LED button by its slot, row letter and the colour it shows.
+    void nameLed(int index);
+    // Names the slot button and every LED button.
+    void nameButtons();
     void drawFrame(QPainter& painter) const;
     void drawConnector(QPainter& painter) const;
 
     bool selected = false;
     bool edited = false;
     QLabel* label_BK = nullptr;
+    COLORREF ledShown[LedCount] = {};
 };

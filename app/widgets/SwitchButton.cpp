@@ -2,6 +2,8 @@
 
 #include "Log.h"
 
+#include <QAccessible>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
@@ -20,6 +22,8 @@ const QString KnobOnPicture = QStringLiteral(":/QXRGBMemory/Images/Btn_Switch_ON
 SwitchButton::SwitchButton(int width, int height, QWidget* parent) : QWidget(parent)
 {
     resize(width, height);
+    // Reached by Tab and switched by Space; a mouse click does not take the focus.
+    setFocusPolicy(Qt::TabFocus);
 
     label_Knob = new QLabel(this);
     label_Knob->setFixedSize(height, height);
@@ -80,12 +84,39 @@ void SwitchButton::setChecked(bool on)
     update();
 }
 
-void SwitchButton::mouseReleaseEvent(QMouseEvent* event)
+void SwitchButton::click()
 {
+    const bool before = checked;
     _checkBtn();
     update();
+    if (checked != before) {
+        QAccessible::State changed;
+        changed.checked = true;
+        QAccessibleStateChangeEvent event(this, changed);
+        QAccessible::updateAccessibility(&event);
+    }
     emit sigClicked(checked);
+}
+
+void SwitchButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    click();
     QWidget::mouseReleaseEvent(event);
+}
+
+void SwitchButton::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Select:
+        click();
+        event->accept();
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void SwitchButton::paintEvent(QPaintEvent* /*event*/)

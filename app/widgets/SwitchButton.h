@@ -20,12 +20,15 @@ public:
     bool isChecked() const { return checked; }
     // Toggles with a slide; ignored while a slide is running.
     void _checkBtn();
+    // What a mouse click does: toggles with a slide and emits sigClicked.
+    void click();
 
 signals:
     void sigClicked(bool checked);
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

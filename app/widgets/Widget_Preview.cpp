@@ -1,5 +1,7 @@
 #include "Widget_Preview.h"
 
+#include "AccessibleDisplay.h"
+#include "ColorNames.h"
 #include "Log.h"
 
 #include <QLinearGradient>
@@ -60,7 +62,10 @@ int leftMargin(int slotCount)
 
 } // namespace
 
-Widget_Preview::Widget_Preview(QWidget* parent) : QWidget(parent) {}
+Widget_Preview::Widget_Preview(QWidget* parent) : QWidget(parent)
+{
+    AccessibleDisplay::expose(this, QAccessible::Graphic);
+}
 
 Widget_Preview::~Widget_Preview() = default;
 
@@ -133,6 +138,33 @@ void Widget_Preview::updatePreviewList(QList<COLORREF*> list)
     else
         QMetaObject::invokeMethod(
             this, [this] { update(); }, Qt::QueuedConnection);
+}
+
+QString Widget_Preview::accessibleValue() const
+{
+    COLORREF colors[MaxSlots][MaxLeds];
+    {
+        QMutexLocker locker(&colorMutex);
+        std::memcpy(colors, previewColor, sizeof colors);
+    }
+    QStringList bars;
+    const int shown = std::min(slotNum, MaxSlots);
+    for (int i = 0; i < shown; ++i) {
+        const QString slot = tr("Slot %1").arg(slotIndex[i] + 1);
+        if (i >= moduleNum) {
+            bars << tr("%1: empty").arg(slot);
+            continue;
+        }
+        // Neighbouring LEDs of one colour are named once.
+        QStringList names;
+        for (int k = 0; k < std::min(std::max(ledNum[i], 1), MaxLeds); ++k) {
+            const QString name = ColorNames::describe(toColor(colors[i][k]));
+            if (names.isEmpty() || names.last() != name)
+                names << name;
+        }
+        bars << QStringLiteral("%1: %2").arg(slot, names.join(QStringLiteral(", ")));
+    }
+    return bars.join(QStringLiteral("; "));
 }
 
 void Widget_Preview::paintEvent(QPaintEvent* /*event*/)

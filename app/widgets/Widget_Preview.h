@@ -33,6 +33,9 @@ public:
     // Gradient stops of one module's bar (an 8-LED module leaves LEDs 3 and 4 to the ornament).
     static QGradientStops gradientStops(const COLORREF* colors, int ledCount);
 
+    // What the preview shows, for assistive technology: per bar its slot and its LED colours.
+    Q_INVOKABLE QString accessibleValue() const;
+
 public slots:
     // May run on any thread: copies the colours and asks for a repaint only when they changed.
     void updatePreviewList(QList<COLORREF*> list);

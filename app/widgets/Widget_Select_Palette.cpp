@@ -3,7 +3,7 @@
 #include "Log.h"
 #include "RGB_Palette.h"
 
-#include <QLabel>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -22,11 +22,15 @@ Widget_Select_Palette::Widget_Select_Palette(QWidget* parent) : QWidget(parent)
     qRegisterMetaType<COLORREF>("COLORREF");
     setGeometry(0, 0, PanelSize, PanelSize);
     setFocusPolicy(Qt::ClickFocus);
-    label_Palette = new QLabel(this);
-    label_Palette->setGeometry((PanelSize - WheelSize) / 2, (PanelSize - WheelSize) / 2, WheelSize,
-                               WheelSize);
-    label_Palette->setStyleSheet(
-        QStringLiteral("QLabel{border-image: url(:/QXRGBMemory/Images/palette.png);}"));
+    // The panel picks for the mouse over its whole area; the wheel serves the keyboard.
+    wheel_ = new RGB_Palette(this);
+    wheel_->setGeometry((PanelSize - WheelSize) / 2, (PanelSize - WheelSize) / 2, WheelSize,
+                        WheelSize);
+    wheel_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    wheel_->setFocusPolicy(Qt::ClickFocus);
+    wheel_->installEventFilter(this);
+    setFocusProxy(wheel_);
+    connect(wheel_, &RGB_Palette::pressRGB, this, &Widget_Select_Palette::pickedByKey);
 }
 
 Widget_Select_Palette::~Widget_Select_Palette() = default;
@@ -40,6 +44,22 @@ void Widget_Select_Palette::mousePressEvent(QMouseEvent* event)
     qCDebug(lcPanel) << "弹出色盘取色:" << (colour & 0xFF) << ((colour >> 8) & 0xFF)
                      << ((colour >> 16) & 0xFF);
     emit pressRGB(colour);
+}
+
+void Widget_Select_Palette::pickedByKey(COLORREF color)
+{
+    emit pressRGB(color);
+    emit keyboardFinished();
+}
+
+void Widget_Select_Palette::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    emit keyboardFinished();
 }
 
 void Widget_Select_Palette::paintEvent(QPaintEvent* /*event*/)
@@ -64,4 +84,14 @@ void Widget_Select_Palette::focusOutEvent(QFocusEvent* event)
     QWidget::focusOutEvent(event);
     if (isVisible())
         hide();
+}
+
+bool Widget_Select_Palette::eventFilter(QObject* watched, QEvent* event)
+{
+    // The focus sits on the wheel (the panel's focus proxy), so its loss closes the panel.
+    if (watched == wheel_ && event->type() == QEvent::FocusOut && isVisible()) {
+        qCDebug(lcPanel) << "Widget_Select_Palette::focusOutEvent";
+        hide();
+    }
+    return QWidget::eventFilter(watched, event);
 }

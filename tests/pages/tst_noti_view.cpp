@@ -1,8 +1,10 @@
 #include "TestEnvironment.h"
 
 #include "AppGlobals.h"
+#include "FocusRing.h"
 #include "Noti_View.h"
 #include "Platform.h"
+#include "RGB_Palette.h"
 #include "SwitchButton.h"
 #include "Widget_Select_Palette.h"
 
@@ -89,6 +91,7 @@ private slots:
     void fanRuleFollowsTheFanProgram();
     void fanRowRepaintsItsUnderlines();
     void colourPickPath();
+    void colourPickByKeyboard();
 
 private:
     // Shows a fresh, active page, hands it sampleRecord() and returns the record it holds then:
@@ -295,7 +298,15 @@ void TestNotiView::colourPickPath()
     auto* swatch = child<QPushButton>("btn_Loading_Color");
     auto* popup = child<Widget_Select_Palette>("palette_Select");
 
-    // The swatch opens the pop-up; a click elsewhere closes it without a choice.
+    // The swatch opens the pop-up, without the keyboard cursor; a second click closes it.
+    QTest::mouseClick(swatch, Qt::LeftButton);
+    QTRY_VERIFY(popup->isVisible() && popup->hasFocus());
+    QVERIFY(!popup->wheel()->findChild<FocusRing*>()->isVisible());
+    QTest::mouseClick(swatch, Qt::LeftButton);
+    QTRY_VERIFY(popup->isHidden());
+    QVERIFY(!swatch->hasFocus());
+
+    // A click elsewhere closes it without a choice.
     QTest::mouseClick(swatch, Qt::LeftButton);
     QTRY_VERIFY(popup->isVisible() && popup->hasFocus());
     QTest::mouseClick(page.get(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 480));
@@ -317,6 +328,54 @@ void TestNotiView::colourPickPath()
         QStringLiteral("rgb(%1,%2,%3)").arg(colour & 255).arg(colour >> 8 & 255).arg(colour >> 16);
     QVERIFY2(swatch->styleSheet().contains(rgb), qPrintable(swatch->styleSheet()));
     QTRY_VERIFY(page->hasFocus());
+}
+
+// The swatch by keyboard: Tab reaches it, Space opens the wheel with its cursor shown, Escape
+// closes it without a choice, the arrows and Space pick and send a colour; the focus comes back
+// to the swatch each time, and Tab out of the open wheel closes it.
+void TestNotiView::colourPickByKeyboard()
+{
+    NotiEventData expected = open();
+    QSignalSpy spy(page.get(), &Noti_View::sendNotiData);
+    auto* percent = child<QPushButton>("btn_Percent");
+    auto* swatch = child<QPushButton>("btn_Loading_Color");
+    auto* popup = child<Widget_Select_Palette>("palette_Select");
+    RGB_Palette* wheel = popup->wheel();
+    auto* cursorMark = wheel->findChild<FocusRing*>();
+
+    percent->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(percent->hasFocus());
+    QTest::keyClick(percent, Qt::Key_Tab);
+    QTRY_VERIFY(swatch->hasFocus());
+    QTest::keyClick(swatch, Qt::Key_Space);
+    QTRY_VERIFY(popup->isVisible() && wheel->hasFocus());
+    QVERIFY(cursorMark->isVisible());
+    QTest::keyClick(wheel, Qt::Key_Escape);
+    QTRY_VERIFY(popup->isHidden());
+    QTRY_VERIFY(swatch->hasFocus());
+    QCOMPARE(spy.count(), 0);
+
+    QTest::keyClick(swatch, Qt::Key_Space);
+    QTRY_VERIFY(popup->isVisible() && wheel->hasFocus());
+    const QPoint start = wheel->keyboardCursor();
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(wheel, Qt::Key_Left);
+    QCOMPARE(wheel->keyboardCursor(), start - QPoint(24, 0));
+    COLORREF colour = 0;
+    QVERIFY(RGB_Palette::pickColour(wheel->keyboardCursor(), wheel->size(), &colour));
+    QTest::keyClick(wheel, Qt::Key_Space);
+    QTRY_VERIFY(popup->isHidden());
+    QTRY_VERIFY(swatch->hasFocus());
+    QCOMPARE(spy.count(), 1);
+    expected.changedItem = 1;
+    expected.loadingColor = colour;
+    QVERIFY(sameRecord(recordAt(spy, 0), expected));
+
+    QTest::keyClick(swatch, Qt::Key_Space);
+    QTRY_VERIFY(popup->isVisible() && wheel->hasFocus());
+    QTest::keyClick(wheel, Qt::Key_Tab);
+    QTRY_VERIFY(popup->isHidden());
+    QCOMPARE(spy.count(), 1);
 }
 
 QTEST_MAIN(TestNotiView)

@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>橙色</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>黄色</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>青色</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>紫色</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>品红色</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>熄灭</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>白色</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>灰色</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>深灰色</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>深%1</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>浅%1</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>此模块正跟随主板的灯光软件，请在该软件中设置它的灯光。</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>蓝</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>色轮</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>灯光模式</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>LED 行 %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>设置</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>插槽 %1，LED %2，%3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>插槽 %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>将所有风扇设为全速</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>阈值</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>颜色</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>插槽 %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1：空</translation>
     </message>
 </context>
 </TS>

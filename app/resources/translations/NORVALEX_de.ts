@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>Lila</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>dunkles %1</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>blasses %1</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>Im MB-Sync-Modus folgt dieses Modul der Beleuchtungssoftware des Mainboards; stellen Sie seine Beleuchtung dort ein.</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>Farbrad</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Lichtmodus</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>LED-Reihe %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>Steckplatz %1, LED %2, %3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Steckplatz %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>setzt alle Lüfter auf volle Drehzahl</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>Schwellenwert</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>Farbe</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>Steckplatz %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1: leer</translation>
     </message>
 </context>
 </TS>

@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>red</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>orange</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>yellow</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>green</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>cyan</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>blue</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>purple</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>white</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>gray</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>dark gray</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>dark %1</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>pale %1</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>In MB Sync mode this module follows your motherboard&apos;s lighting software, so set its lighting there.</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>Color wheel</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Light Mode</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>LED row %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimize</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>Slot %1, LED %2, %3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Slot %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>sets all fans to full speed</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>threshold</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>unit</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>color</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>Slot %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1: empty</translation>
     </message>
 </context>
 </TS>

@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>rojo</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>naranja</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>amarillo</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>verde</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>cian</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>azul</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>morado</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>apagado</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>blanco</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>gris</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>gris oscuro</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>%1 oscuro</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>%1 pálido</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>En modo Sinc. placa base, este módulo sigue el software de iluminación de la placa base; ajuste su iluminación allí.</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>Rueda de color</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Modo de luz</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>Fila de LED %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>Ranura %1, LED %2, %3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Ranura %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>pone todos los ventiladores a máxima velocidad</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>umbral</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>unidad</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>color</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>Ranura %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1: vacía</translation>
     </message>
 </context>
 </TS>

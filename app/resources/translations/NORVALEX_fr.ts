@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>rouge</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>orange</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>jaune</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>vert</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>cyan</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>bleu</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>violet</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>éteinte</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>blanc</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>gris</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>gris foncé</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>%1 foncé</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>%1 pâle</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>En mode Synchro CM, ce module suit le logiciel d&apos;éclairage de la carte mère : réglez son éclairage dans ce logiciel.</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>Roue chromatique</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Mode d’éclairage</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>Rangée de LED %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>Emplacement %1, LED %2, %3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Emplacement %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>règle tous les ventilateurs à pleine vitesse</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>seuil</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>unité</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>couleur</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>Emplacement %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1 : vide</translation>
     </message>
 </context>
 </TS>

@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>オレンジ</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>シアン</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>紫</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>マゼンタ</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>消灯</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>白</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>グレー</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>濃いグレー</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>暗い%1</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>淡い%1</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>このモジュールはマザーボードのライティングソフトウェアに従っています。ライティングはそちらで設定してください。</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>カラーホイール</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>ライトモード</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>LED 列 %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>スロット %1、LED %2、%3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>スロット %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>全ファンを最大回転数にする</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>しきい値</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>色</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>スロット %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1：空き</translation>
     </message>
 </context>
 </TS>

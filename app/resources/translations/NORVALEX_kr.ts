@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>빨간색</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>주황색</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>노란색</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>초록색</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>청록색</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>파란색</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>보라색</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>자홍색</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>꺼짐</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>흰색</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>회색</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>진한 회색</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>어두운 %1</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>연한 %1</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>이 모듈은 메인보드 조명 소프트웨어를 따릅니다. 조명은 해당 소프트웨어에서 설정하세요.</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>빨강</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>초록</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>파랑</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>색상환</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>조명 모드</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>LED 줄 %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>설정</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>최소화</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>슬롯 %1, LED %2, %3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>슬롯 %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>모든 팬을 최대 속도로 설정</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>임계값</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>단위</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>색상</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>슬롯 %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1: 비어 있음</translation>
     </message>
 </context>
 </TS>

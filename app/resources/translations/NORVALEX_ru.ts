@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>красный</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>оранжевый</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>жёлтый</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>зелёный</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>голубой</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>синий</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>фиолетовый</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>пурпурный</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>выключен</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>белый</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>серый</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>тёмно-серый</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>тёмно-%1</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>бледно-%1</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>В режиме синхронизации с материнской платой модулем управляет её программа подсветки; настройте подсветку в ней.</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>Красный</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Зелёный</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Синий</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>Цветовой круг</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Режим подсветки</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>Ряд светодиодов %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Свернуть</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>Слот %1, светодиод %2, %3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Слот %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>включает все вентиляторы на полную скорость</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>порог</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>единица</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>цвет</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>ОК</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>Слот %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1: пусто</translation>
     </message>
 </context>
 </TS>

@@ -9,6 +9,65 @@
     </message>
 </context>
 <context>
+    <name>ColorNames</name>
+    <message>
+        <source>red</source>
+        <translation>สีแดง</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>สีส้ม</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>สีเหลือง</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>สีเขียว</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>สีฟ้าอมเขียว</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>สีน้ำเงิน</translation>
+    </message>
+    <message>
+        <source>purple</source>
+        <translation>สีม่วง</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>สีม่วงแดง</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>ดับ</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>สีขาว</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <translation>สีเทา</translation>
+    </message>
+    <message>
+        <source>dark gray</source>
+        <translation>สีเทาเข้ม</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>%1เข้ม</translation>
+    </message>
+    <message>
+        <source>pale %1</source>
+        <translation>%1อ่อน</translation>
+    </message>
+</context>
+<context>
     <name>Information_Slots_View</name>
     <message>
         <source>Type:</source>
@@ -292,6 +351,30 @@
         <source>MB_Sync_Warning_Content</source>
         <translation>โมดูลนี้ทำงานตามซอฟต์แวร์ควบคุมไฟของเมนบอร์ด โปรดตั้งค่าไฟของโมดูลในซอฟต์แวร์นั้น</translation>
     </message>
+    <message>
+        <source>Red</source>
+        <translation>แดง</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>เขียว</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>น้ำเงิน</translation>
+    </message>
+    <message>
+        <source>Color wheel</source>
+        <translation>วงล้อสี</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>โหมดไฟ</translation>
+    </message>
+    <message>
+        <source>LED row %1</source>
+        <translation>แถว LED %1</translation>
+    </message>
 </context>
 <context>
     <name>Loading_View</name>
@@ -321,6 +404,25 @@
     <message>
         <source>Settings</source>
         <translation>การตั้งค่า</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>ปิด</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>ย่อหน้าต่าง</translation>
+    </message>
+</context>
+<context>
+    <name>Memory_RGB_View</name>
+    <message>
+        <source>Slot %1, LED %2, %3</source>
+        <translation>ช่อง %1, LED %2, %3</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>ช่อง %1</translation>
     </message>
 </context>
 <context>
@@ -352,6 +454,18 @@
     <message>
         <source>Set all fans to 100%</source>
         <translation>ตั้งพัดลมทั้งหมดเป็นความเร็วสูงสุด</translation>
+    </message>
+    <message>
+        <source>threshold</source>
+        <translation>เกณฑ์</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>หน่วย</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>สี</translation>
     </message>
 </context>
 <context>
@@ -481,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>ตกลง</translation>
+    </message>
+</context>
+<context>
+    <name>Widget_Preview</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>ช่อง %1</translation>
+    </message>
+    <message>
+        <source>%1: empty</source>
+        <translation>%1: ว่าง</translation>
     </message>
 </context>
 </TS>
