@@ -432,29 +432,11 @@ void QXRGBMemory::changeLanguage(int index)
 // --- native messages
 // ------------------------------------------------------------------------------
 
-void QXRGBMemory::handleNativeMessage(unsigned message, quintptr wParam, qintptr)
+void QXRGBMemory::handleNativeMessage(unsigned message, quintptr wParam, qintptr lParam)
 {
     qCDebug(lcPanel) << "QXRGBMemory::nativeEvent";
-    switch (message) {
-    case Platform::kMessageQuit:
-        QCoreApplication::quit();
-        break;
-    case Platform::kMessageRaise:
-        qCDebug(lcPanel) << "receive 8302";
-        if (m_mainView) {
-            m_mainView->show();
-            m_mainView->setWindowState(Qt::WindowActive);
-            m_mainView->activateWindow();
-        }
-        break;
-    case Platform::kMessageQuitIfOpened:
-        qCDebug(lcPanel) << (wParam != 0);
-        if (wParam != 0 && programStarted)
-            QCoreApplication::quit();
-        break;
-    default:
-        break;
-    }
+    // The frame answers each message as it does when its own window receives it.
+    m_mainView->handleNativeMessage(message, wParam, lParam);
 }
 
 void QXRGBMemory::nativeMessageHandler(void* context, unsigned message, std::uintptr_t wParam,

@@ -1,23 +1,26 @@
 #include "Lighting_View.h"
 
-#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "ColorEntry.h"
 #include "LightModeTable.h"
 #include "LightingDeck.h"
 #include "LightingLook.h"
+#include "LightingWiring.h"
 #include "Log.h"
 #include "Memory_RGB_View.h"
+#include "ModeControls.h"
 #include "Palette_draw_rect.h"
 #include "PopupAnchor.h"
+#include "ProfileButtons.h"
 #include "RGB_Palette.h"
+#include "SelectionDeck.h"
 #include "SlotLayout.h"
+#include "SlotOrder.h"
 #include "StripSelection.h"
 #include "SwitchButton.h"
 #include "Widget_Light_Mode_View.h"
 #include "Widget_Preview.h"
 
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
@@ -45,14 +48,8 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
         memoryData[i].memorySlot = i;
     }
 
-    buildLightModeMap();
-    const QStringList colorKeys = LightModeTable::colorModeKeys();
-    for (int mode = LightModeTable::ColorRgb; mode <= LightModeTable::ColorOff; ++mode) {
-        colorModeStandMap.insert(tr(qPrintable(colorKeys.at(mode))), mode);
-        colorModeMap.insert(tr(qPrintable(colorKeys.at(mode))), mode);
-    }
-
     deck = std::make_unique<LightingDeck>(this);
+    modes = std::make_unique<ModeControls>(*deck);
     lineEdit_R_Value = deck->colorEntry->field(ColorEntry::Red);
     lineEdit_G_Value = deck->colorEntry->field(ColorEntry::Green);
     lineEdit_B_Value = deck->colorEntry->field(ColorEntry::Blue);
@@ -62,13 +59,14 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
     slotLayout = std::make_unique<SlotLayout>(SlotLayout::PageState{
         this, widget_memory_Control, memoryRGBView, slotLabel, slotAnimation, btn_SelectHorizontal,
         btn_Profile, btn_Edit, btn_Edit_Cancel, btn_Edit_Apply, savedOrder, maxLEDNum});
-    createProfileButtons();
+    profiles = std::make_unique<ProfileButtons>(this, btn_Profile);
     slotLayout->createEditButtons();
+    selectionDeck = std::make_unique<SelectionDeck>(this, *deck, *modes, memoryRGBView, memoryData);
 
     widget_Light_Mode_View =
         new Widget_Light_Mode_View(kLightModeListRect.width(), kLightModeListRect.height(), this);
     widget_Light_Mode_View->move(kLightModeListRect.topLeft());
-    widget_Light_Mode_View->setLightModeMap(lightModeMap);
+    widget_Light_Mode_View->setLightModeMap(modes->lightModeNames());
     widget_Light_Mode_View->hide();
     PopupAnchor::tie(deck->btn_LightMode, widget_Light_Mode_View);
 
@@ -77,20 +75,20 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
     palette_draw_rect->setAttribute(Qt::WA_TransparentForMouseEvents);
     palette_draw_rect->hide();
 
-    label_DragSlot = new QLabel(this);
-    label_DragSlot->setObjectName(QStringLiteral("label_DragSlot"));
-    label_DragSlot->setAttribute(Qt::WA_TransparentForMouseEvents);
-    label_DragSlot->setStyleSheet(QStringLiteral("background:transparent;"));
-    label_DragSlot->hide();
-
     selection = std::make_unique<StripSelection>(
         StripSelection::PageState{palette_draw_rect, allselect_start_x, allselect_start_y,
                                   allselect_end_x, allselect_end_y, allselectDragging,
                                   memoryRGBView, memoryData, btn_SelectHorizontal,
                                   selectAreaPointList},
         *slotLayout);
+    slotOrder =
+        std::make_unique<SlotOrder>(this, memoryRGBView, *slotLayout, *selection, savedOrder);
 
-    connectControls();
+    LightingWiring::connect(this, {*deck, widget_Light_Mode_View, memoryRGBView,
+                                   btn_SelectHorizontal, btn_Profile, btn_Edit, btn_Edit_Cancel,
+                                   btn_Edit_Apply, slotLayout->widget_Preview});
+    connect(widget_Light_Mode_View, &Widget_Light_Mode_View::keyboardFinished, this,
+            &Lighting_View::returnFromModeList);
     applyLanguageFonts();
 }
 
@@ -103,145 +101,17 @@ Lighting_View::~Lighting_View()
         edit->removeEventFilter(this);
 }
 
-void Lighting_View::buildLightModeMap()
-{
-    lightModeMap.clear();
-    for (int mode : LightModeTable::modeValues(isNewMode))
-        lightModeMap.insert(mode, tr(LightModeTable::modeKey(mode)));
-}
-
-void Lighting_View::createProfileButtons()
-{
-    buttonGroup_Profile = new QButtonGroup(this);
-    buttonGroup_Profile->setExclusive(true);
-    for (int id = 0; id < ProfileCount; ++id) {
-        QPushButton* button =
-            new QPushButton(tr("Profile") + QLatin1Char(' ') + QString::number(id + 1), this);
-        button->setObjectName(QStringLiteral("btn_Profile%1").arg(id));
-        button->setCheckable(true);
-        Accessibility::makeTabReachable(button);
-        button->setGeometry(
-            QRect(QPoint(kProfileX, kProfileTop + id * kProfilePitch), kProfileSize));
-        buttonGroup_Profile->addButton(button, id);
-        btn_Profile[id] = button;
-    }
-    btn_Profile[0]->setChecked(true);
-}
-
-void Lighting_View::connectControls()
-{
-    const ColorEntry* entry = deck->colorEntry;
-    for (Memory_RGB_View* strip : memoryRGBView) {
-        strip->installEventFilter(this);
-        connect(strip, &Memory_RGB_View::SelectMemSlot, this, &Lighting_View::slot_SelectMemSlot);
-        // One connection per strip: a pick runs receivePaletteValue once for every strip, and
-        // repeating the same colour changes nothing.
-        connect(entry->palette(), &RGB_Palette::pressRGB, this,
-                &Lighting_View::receivePaletteValue);
-        connect(this, &Lighting_View::changeBright, strip, &Memory_RGB_View::slot_ChangeBright);
-        connect(this, &Lighting_View::changeColorMode, strip,
-                &Memory_RGB_View::slot_ChangeColorMode);
-        connect(this, &Lighting_View::sendDefault, strip, &Memory_RGB_View::slot_Default);
-        connect(this, &Lighting_View::sendSelected, strip, &Memory_RGB_View::slot_Selected);
-        connect(this, &Lighting_View::pressRGB, strip, &Memory_RGB_View::pressRGB);
-    }
-    connect(this, &Lighting_View::sendUpdatePreviewList, slotLayout->widget_Preview,
-            &Widget_Preview::updatePreviewList, Qt::DirectConnection);
-
-    connect(widget_Light_Mode_View, &Widget_Light_Mode_View::selectLightMode, this,
-            &Lighting_View::currentLightModeIndex);
-    connect(widget_Light_Mode_View, &Widget_Light_Mode_View::keyboardFinished, this,
-            &Lighting_View::returnFromModeList);
-    connect(deck->comboBox_ColorMode, qOverload<int>(&QComboBox::activated), this,
-            &Lighting_View::currentColorModeIndex);
-    connect(deck->comboBox_LightSpeed, qOverload<int>(&QComboBox::activated), this,
-            &Lighting_View::currentLightSpeedIndex);
-    connect(deck->slider_Light, &QSlider::valueChanged, this, &Lighting_View::changeSliderBright);
-
-    using Slot = void (Lighting_View::*)();
-    using ValueSlot = void (Lighting_View::*)(int);
-    const ValueSlot valueSlots[] = {&Lighting_View::slot_R_Value, &Lighting_View::slot_G_Value,
-                                    &Lighting_View::slot_B_Value};
-    const Slot commitSlots[] = {&Lighting_View::slot_LineEdit_RValue,
-                                &Lighting_View::slot_LineEdit_GValue,
-                                &Lighting_View::slot_LineEdit_BValue};
-    for (int c = 0; c < ColorEntry::ChannelCount; ++c) {
-        connect(entry->slider(c), &QSlider::valueChanged, this, valueSlots[c]);
-        connect(entry->slider(c), &QSlider::sliderReleased, this, commitSlots[c]);
-    }
-    for (int c = 0; c < ColorEntry::ChannelCount; ++c)
-        connect(entry->field(c), &QLineEdit::returnPressed, this, commitSlots[c]);
-
-    connect(deck->switchButton, &SwitchButton::sigClicked, this,
-            &Lighting_View::slot_TurnOn_Switch);
-    for (QPushButton* row : btn_SelectHorizontal)
-        connect(row, &QPushButton::released, this, &Lighting_View::slot_SelectHorizontal);
-    for (QPushButton* profile : btn_Profile)
-        connect(profile, &QPushButton::released, this, &Lighting_View::slot_Profile);
-
-    connect(deck->btn_LightMode, &QPushButton::clicked, this, &Lighting_View::slotLightMode);
-    connect(deck->btn_Apply, &QPushButton::clicked, this, &Lighting_View::slotApply);
-    connect(deck->btn_Default, &QPushButton::clicked, this, &Lighting_View::slotDefault);
-    connect(btn_Edit, &QPushButton::clicked, this, &Lighting_View::slotEdit);
-    connect(btn_Edit_Apply, &QPushButton::clicked, this, &Lighting_View::slotEdit_Apply);
-    // Released, not clicked: leaving the page emits it to cancel an unfinished edit.
-    connect(btn_Edit_Cancel, &QPushButton::released, this, &Lighting_View::slotEdit_Cancel);
-}
-
 void Lighting_View::applyLanguageFonts()
 {
     deck->applyLanguageFonts(currentLanguage);
-    const int profileFont = currentLanguage == kLanguageJapanese ? kProfileFontSmall : kProfileFont;
-    for (QPushButton* profile : btn_Profile)
-        profile->setStyleSheet(QString::fromLatin1(kProfileStyle).arg(profileFont));
+    profiles->applyLanguageFonts(currentLanguage);
 }
 
 // ----- light-mode rule --------------------------------------------------------------------------
 
 void Lighting_View::checkLightingRule(int lightMode)
 {
-    qCDebug(lcPanel) << "Lighting_View::checkLightingRule" << lightMode;
-    const LightModeTable::Rule rule = LightModeTable::rule(lightMode);
-    QComboBox* colorCombo = deck->comboBox_ColorMode;
-    QComboBox* speedCombo = deck->comboBox_LightSpeed;
-
-    colorCombo->clear();
-    colorModeMap.clear();
-    deck->colorEntry->setChannelsEnabled(rule.colorEntryEnabled);
-
-    const int groupItems = rule.colorItems.size() - (rule.randomAdded ? 1 : 0);
-    for (int i = 0; i < groupItems; ++i) {
-        colorModeMap.insert(tr(qPrintable(rule.colorItems.at(i))), colorModeMap.size());
-        LightingDeck::addKeyedItem(colorCombo, rule.colorItems.at(i));
-    }
-    qCDebug(lcPanel) << rule.groupDiagnostic;
-    deck->slider_Light->setDisabled(!rule.brightnessEnabled);
-
-    if (rule.randomAdded) {
-        colorModeMap.insert(tr(qPrintable(rule.colorItems.last())), colorModeMap.size());
-        LightingDeck::addKeyedItem(colorCombo, rule.colorItems.last());
-        qCDebug(lcPanel) << "Add Random";
-    }
-    colorCombo->setEnabled(rule.colorComboEnabled);
-    LightingDeck::appendHiddenEmptyItem(colorCombo);
-
-    speedCombo->clear();
-    for (const QString& key : LightModeTable::speedKeys())
-        LightingDeck::addKeyedItem(speedCombo, key);
-    LightingDeck::appendHiddenEmptyItem(speedCombo);
-
-    if (rule.speedFixed) {
-        speedCombo->setCurrentIndex(LightModeTable::FixedSpeed);
-        speedCombo->setEnabled(false);
-        return;
-    }
-    for (int i = 0; i < SlotCount; ++i) {
-        if (isSlotChecked(i)) {
-            speedCombo->setCurrentIndex(memoryData[i].lightSpeed);
-            break;
-        }
-    }
-    speedCombo->setEnabled(true);
+    selectionDeck->applyRule(lightMode);
 }
 
 // ----- shared steps -----------------------------------------------------------------------------
@@ -256,196 +126,49 @@ bool Lighting_View::isSlotChecked(int slot) const
     return memoryRGBView[slot]->btn_MemorySlot->isChecked();
 }
 
-QString Lighting_View::lightModeName(int lightMode)
-{
-    // Subscript on purpose: a mode without a name shows an empty button text.
-    return lightModeMap[lightMode];
-}
-
-int Lighting_View::colorComboIndexFor(int colorMode)
-{
-    return colorModeMap[tr(LightModeTable::colorModeKey(colorMode))];
-}
-
-int Lighting_View::colorModeOfComboText()
-{
-    return colorModeStandMap[deck->comboBox_ColorMode->currentText()];
-}
-
-float Lighting_View::moduleBrightness(int slot) const
-{
-    const Memory_RGB_View* strip = memoryRGBView[slot];
-    if (strip->colorMode == LightModeTable::ColorRgb)
-        return strip->ledBright[0];
-    if (strip->colorMode == LightModeTable::ColorSingle)
-        return strip->singleBright;
-    return 1.0f;
-}
-
-void Lighting_View::applyMbSyncRule(int lightMode)
-{
-    deck->showMbSyncWarning(mbSyncWarning && lightMode == kMbSyncMode);
-}
-
-// Shows the focused module's mode, colour mode and speed, or empty controls when the selected
-// modules run different modes.
-void Lighting_View::showSelectedControls()
-{
-    bool sameMode = true;
-    for (int i = 0; i < SlotCount; ++i) {
-        if (isSlotChecked(i) && memoryRGBView[i]->available &&
-            memoryData[i].lightMode != currentLightMode)
-            sameMode = false;
-    }
-
-    QComboBox* colorCombo = deck->comboBox_ColorMode;
-    QComboBox* speedCombo = deck->comboBox_LightSpeed;
-    if (!sameMode) {
-        deck->btn_LightMode->setText(QString());
-        colorCombo->clear();
-        colorCombo->setEnabled(false);
-        speedCombo->clear();
-        speedCombo->setEnabled(false);
-        return;
-    }
-
-    const MemoryModuleData& focused = memoryData[SelectMemoryIndex];
-    checkLightingRule(focused.lightMode);
-    deck->btn_LightMode->setText(lightModeName(focused.lightMode));
-    colorCombo->setCurrentIndex(colorComboIndexFor(focused.colorMode));
-    speedCombo->setCurrentIndex(focused.lightSpeed);
-
-    bool colorModesDiffer = false;
-    bool speedsDiffer = false;
-    for (int i = 0; i < SlotCount; ++i) {
-        if (!isSlotChecked(i) || !memoryRGBView[i]->available)
-            continue;
-        colorModesDiffer = colorModesDiffer || memoryData[i].colorMode != focused.colorMode;
-        speedsDiffer = speedsDiffer || memoryData[i].lightSpeed != focused.lightSpeed;
-    }
-    if (colorModesDiffer)
-        colorCombo->setCurrentText(QString());
-    if (speedsDiffer)
-        speedCombo->setCurrentText(QString());
-    applyMbSyncRule(focused.lightMode);
-}
-
-void Lighting_View::showModuleColor(int slot)
-{
-    const Memory_RGB_View* strip = memoryRGBView[slot];
-    COLORREF color = 0;
-    if (strip->colorMode == LightModeTable::ColorRgb) {
-        int led = 0;
-        while (led < Memory_RGB_View::LedCount && !strip->btn_Led[led]->isChecked())
-            ++led;
-        if (led == Memory_RGB_View::LedCount)
-            return;
-        color = strip->ledColor[led];
-    } else if (strip->colorMode == LightModeTable::ColorSingle) {
-        color = strip->singleColor;
-    } else {
-        return;
-    }
-    deck->colorEntry->setColor(color);
-}
-
-void Lighting_View::finishEditMode()
-{
-    label_DragSlot->hide();
-    slotLayout->finishEditMode();
-    update();
-}
-
 // ----- requests from the user -------------------------------------------------------------------
 
 void Lighting_View::slotApply()
 {
     qCDebug(lcPanel) << "Lighting_View::slotApply";
-    for (int i = 0; i < SlotCount; ++i) {
-        if (!isSlotChecked(i))
-            continue;
-        MemoryModuleData& module = memoryData[i];
-        // An empty text means the selected modules disagree: their own values are kept.
-        if (!deck->btn_LightMode->text().isEmpty()) {
-            module.lightMode = currentLightMode;
-            if (!deck->comboBox_ColorMode->currentText().isEmpty())
-                module.colorMode = colorModeOfComboText();
-            if (!deck->comboBox_LightSpeed->currentText().isEmpty())
-                module.lightSpeed = deck->comboBox_LightSpeed->currentIndex();
-        }
-        qCDebug(lcPanel) << "UI-->changeBright ==" << deck->slider_Light->value();
-        emit changeBright(static_cast<float>(deck->slider_Light->value() / 10.0));
-        Memory_RGB_View* strip = memoryRGBView[i];
-        emit changeColor(i, strip->ledColor, strip->singleColor, strip->ledBright,
-                         strip->singleBright);
-    }
-    for (int i = 0; i < SlotCount; ++i) {
-        if (!isSlotChecked(i))
-            continue;
-        const MemoryModuleData& module = memoryData[i];
-        emit changeLightMode(i, module.lightMode, module.colorMode, module.lightSpeed,
-                             module.lightingOff != 0);
-        emit changeColorMode(i, module.colorMode);
-    }
+    selectionDeck->apply(currentLightMode);
 }
 
 void Lighting_View::slotEdit()
 {
     qCDebug(lcPanel) << "Lighting_View::slotEdit";
-    for (int i = 0; i < SlotCount; ++i)
-        savedOrder[i] = memoryRGBView[i]->slotPosition;
-    if (isEditMode()) {
-        finishEditMode();
-        return;
-    }
-    slotLayout->enterEditMode();
-    selection->rebuildOutline();
-    update();
+    slotOrder->toggleEditMode();
 }
 
 void Lighting_View::slotEdit_Cancel()
 {
     qCDebug(lcPanel) << "Lighting_View::slotEdit_Cancel";
-    label_DragSlot->hide();
-    slotLayout->cancelEditMode();
-    update();
+    slotOrder->cancelEditMode();
 }
 
 void Lighting_View::slotEdit_Apply()
 {
     qCDebug(lcPanel) << "Lighting_View::slotEdit_Apply";
-    finishEditMode();
-    int order[SlotCount];
-    slotLayout->currentOrder(order);
-    emit changeMemorySlotNumber(SlotCount, order);
-    slotLayout->widget_Preview->setSlotsOrder(SlotCount, order);
-    slotLayout->widget_Preview->update();
+    slotOrder->applyEditMode();
 }
 
 void Lighting_View::slotDefault()
 {
     qCDebug(lcPanel) << "Lighting_View::slotDefault";
-    emit changeBright(1.0f);
-    for (int i = 0; i < SlotCount; ++i) {
-        if (!isSlotChecked(i))
-            continue;
-        deck->comboBox_LightSpeed->setCurrentIndex(LightModeTable::FixedSpeed);
-        emit changeColorMode(i, memoryData[i].colorMode);
-    }
-    emit sendDefault();
+    selectionDeck->restoreDefaults();
 }
 
 void Lighting_View::currentLightModeIndex(int lightMode)
 {
     qCDebug(lcPanel) << "Lighting_View::currentLightModeIndex" << lightMode;
     currentLightMode = lightMode;
-    deck->btn_LightMode->setText(lightModeName(lightMode));
+    deck->btn_LightMode->setText(modes->lightModeName(lightMode));
     checkLightingRule(lightMode);
     for (int i = 0; i < SlotCount; ++i) {
         if (isSlotChecked(i))
-            emit changeColorMode(i, colorModeOfComboText());
+            emit changeColorMode(i, modes->colorModeOfComboText());
     }
-    applyMbSyncRule(lightMode);
+    selectionDeck->applyMbSyncRule(lightMode);
     widget_Light_Mode_View->hide();
 }
 
@@ -454,9 +177,9 @@ void Lighting_View::currentColorModeIndex(int index)
     qCDebug(lcPanel) << "Lighting_View::currentColorModeIndex" << index;
     for (int i = 0; i < SlotCount; ++i) {
         if (isSlotChecked(i))
-            emit changeColorMode(i, colorModeOfComboText());
+            emit changeColorMode(i, modes->colorModeOfComboText());
     }
-    deck->setBrightness(moduleBrightness(SelectMemoryIndex));
+    deck->setBrightness(selectionDeck->moduleBrightness(SelectMemoryIndex));
 }
 
 void Lighting_View::currentLightSpeedIndex(int index)
@@ -498,27 +221,18 @@ void Lighting_View::slot_SelectMemSlot(int slot)
         }
     }
 
-    showSelectedControls();
-    for (int i = 0; i < SlotCount; ++i) {
-        if (isSlotChecked(i) && memoryRGBView[i]->available) {
-            deck->showSwitchState(memoryData[i].lightingOff == 0);
-            break;
-        }
-    }
+    selectionDeck->showSelection(currentLightMode);
+    selectionDeck->showSwitch();
     selection->rebuildOutline();
     selection->updateRowButtons();
-    showModuleColor(SelectMemoryIndex);
+    selectionDeck->showModuleColor(SelectMemoryIndex);
     update();
 }
 
 void Lighting_View::slot_TurnOn_Switch(bool on)
 {
     qCDebug(lcPanel) << "Lighting_View::slot_TurnOn_Switch" << on;
-    deck->showSwitchLabel(on);
-    for (int i = 0; i < SlotCount; ++i) {
-        if (isSlotChecked(i))
-            memoryData[i].lightingOff = on ? 0 : 1;
-    }
+    selectionDeck->setSwitch(on);
 }
 
 void Lighting_View::slot_SelectHorizontal()
@@ -569,7 +283,7 @@ void Lighting_View::returnFromModeList()
 
 void Lighting_View::slot_Profile()
 {
-    const int profile = buttonGroup_Profile->checkedId();
+    const int profile = profiles->checkedProfile();
     qCDebug(lcPanel) << "Lighting_View::slot_Profile" << profile;
     emit select_Profile(profile);
 }
@@ -577,8 +291,7 @@ void Lighting_View::slot_Profile()
 void Lighting_View::slot_setProfile(int profile)
 {
     qCDebug(lcPanel) << "Lighting_View::slot_setProfile" << profile;
-    if (QAbstractButton* button = buttonGroup_Profile->button(profile))
-        button->setChecked(true);
+    profiles->check(profile);
 }
 
 void Lighting_View::slot_R_Value(int value)
@@ -654,20 +367,8 @@ void Lighting_View::setLighting(int slot, int lightMode, int colorMode, int ligh
     module.lightingOff = turnOff ? 1 : 0;
 
     if (slot == SelectMemoryIndex) {
-        deck->btn_LightMode->setText(lightModeName(lightMode));
         currentLightMode = lightMode;
-        checkLightingRule(lightMode);
-        deck->comboBox_LightSpeed->setCurrentIndex(lightSpeed);
-        deck->comboBox_ColorMode->setCurrentIndex(colorComboIndexFor(colorMode));
-        deck->showSwitchState(!turnOff);
-        const Memory_RGB_View* strip = memoryRGBView[slot];
-        float bright = 1.0f;
-        if (colorMode == LightModeTable::ColorRgb)
-            bright = strip->ledBright[0];
-        else if (colorMode == LightModeTable::ColorSingle)
-            bright = strip->singleBright;
-        deck->setBrightness(bright);
-        applyMbSyncRule(lightMode);
+        selectionDeck->showModule(slot);
     }
     emit changeColorMode(slot, colorMode);
 }
@@ -687,30 +388,7 @@ void Lighting_View::setMemorySlots(int slotCount, int availableCount)
 void Lighting_View::setMemorySlotNumber(int count, int* order)
 {
     qCDebug(lcPanel) << "Lighting_View::setMemorySlotNumber" << count;
-    if (!order)
-        return;
-    const int placed = qBound(0, count, static_cast<int>(SlotCount));
-    bool anyChecked = false;
-    for (int i = 0; i < placed; ++i)
-        anyChecked = anyChecked || isSlotChecked(i);
-
-    // Only while nothing is selected: a selection keeps the strips where the user sees them.
-    if (!anyChecked) {
-        slotLayout->setColumns(placed, order);
-        int first = 0;
-        for (int i = 0; i < placed; ++i) {
-            if (memoryRGBView[i]->slotPosition == 0) {
-                first = i;
-                break;
-            }
-        }
-        slot_SelectMemSlot(first);
-    }
-
-    slotLayout->widget_Preview->setSlotsOrder(placed, order);
-    slotLayout->placeMarkers();
-    slotLayout->widget_Preview->update();
-    update();
+    slotOrder->setOrder(count, order);
 }
 
 void Lighting_View::setMemoryLEDNumber(int count, int* ledNumbers)
@@ -729,31 +407,18 @@ void Lighting_View::setMemoryLEDNumber(int count, int* ledNumbers)
 void Lighting_View::updateLanguage_Lighting()
 {
     qCDebug(lcPanel) << "Lighting_View::updateLanguage_Lighting";
-    buildLightModeMap();
-    colorModeStandMap.clear();
-    const QStringList colorKeys = LightModeTable::colorModeKeys();
-    for (int mode = 0; mode < colorKeys.size(); ++mode)
-        colorModeStandMap.insert(tr(qPrintable(colorKeys.at(mode))), mode);
-    widget_Light_Mode_View->setLightModeMap(lightModeMap);
-
-    if (!deck->btn_LightMode->text().isEmpty())
-        deck->btn_LightMode->setText(lightModeName(currentLightMode));
     deck->retranslate();
     deck->colorEntry->nameChannels();
+    modes->retranslate();
+    widget_Light_Mode_View->setLightModeMap(modes->lightModeNames());
+    if (!deck->btn_LightMode->text().isEmpty())
+        deck->btn_LightMode->setText(modes->lightModeName(currentLightMode));
     btn_Edit->setText(tr("Edit"));
     btn_Edit_Cancel->setText(tr("Cancel"));
     btn_Edit_Apply->setText(tr("Apply"));
     slotLayout->label_Preview->setText(tr("Preview"));
     slotLayout->nameRows();
-    for (int id = 0; id < ProfileCount; ++id)
-        btn_Profile[id]->setText(tr("Profile") + QLatin1Char(' ') + QString::number(id + 1));
-
-    QComboBox* colorCombo = deck->comboBox_ColorMode;
-    colorModeMap.clear();
-    for (int i = 0; i < colorCombo->count(); ++i) {
-        if (!colorCombo->itemData(i).toString().isEmpty())
-            colorModeMap.insert(colorCombo->itemText(i), i);
-    }
+    profiles->retranslate();
     applyLanguageFonts();
 }
 
@@ -762,29 +427,20 @@ void Lighting_View::updateLanguage_Lighting()
 void Lighting_View::mousePressEvent(QMouseEvent* event)
 {
     const QPoint pos = event->pos();
-    if (!isEditMode()) {
+    if (isEditMode())
+        slotOrder->press(pos);
+    else
         selection->press(pos);
-        return;
-    }
-    for (int i = 0; i < SlotCount; ++i) {
-        if (!memoryRGBView[i]->isHidden() && slotLayout->stripContains(i, pos)) {
-            pickUpStrip(i, pos);
-            return;
-        }
-    }
 }
 
 void Lighting_View::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint pos = event->pos();
-    if (!label_DragSlot->isHidden()) {
-        label_DragSlot->move(pos.x(), label_DragSlot->y());
+    if (slotOrder->isActive()) {
+        slotOrder->follow(pos);
         if (isEditMode()) {
             allselectDragging = false;
-            for (int i = 0; i < SlotCount; ++i) {
-                if (!memoryRGBView[i]->isHidden())
-                    emit sendSelected(i, slotLayout->stripContains(i, pos));
-            }
+            slotOrder->hover(pos);
             return;
         }
     }
@@ -795,48 +451,13 @@ void Lighting_View::mouseMoveEvent(QMouseEvent* event)
 void Lighting_View::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPoint pos = event->pos();
-    if (!label_DragSlot->isHidden()) {
-        label_DragSlot->hide();
+    if (slotOrder->isActive()) {
+        slotOrder->hide();
         if (isEditMode())
-            dropStrip(pos);
+            slotOrder->drop(pos);
     }
     selection->release(pos);
     update();
-}
-
-void Lighting_View::pickUpStrip(int slot, const QPoint& pos)
-{
-    qCDebug(lcPanel) << "Lighting_View::pickUpStrip" << slot;
-    dragSlotIndex = slot;
-    Memory_RGB_View* strip = memoryRGBView[slot];
-
-    dragPixmap = QPixmap(strip->size());
-    dragPixmap.fill(Qt::transparent);
-    strip->render(&dragPixmap, QPoint(), QRegion(), QWidget::DrawChildren);
-    QPixmap faded(dragPixmap.size());
-    faded.fill(Qt::transparent);
-    {
-        QPainter painter(&faded);
-        painter.setOpacity(kDragOpacity);
-        painter.drawPixmap(0, 0, dragPixmap);
-    }
-
-    label_DragSlot->setPixmap(faded);
-    label_DragSlot->resize(faded.size());
-    label_DragSlot->move(pos.x(), slotLayout->stripRect(slot).top());
-    label_DragSlot->raise();
-    label_DragSlot->show();
-}
-
-void Lighting_View::dropStrip(const QPoint& pos)
-{
-    for (int i = 0; i < SlotCount; ++i) {
-        if (memoryRGBView[i]->isHidden())
-            continue;
-        if (slotLayout->stripContains(i, pos))
-            slotLayout->swapStrips(dragSlotIndex, i);
-        emit sendSelected(i, false);
-    }
 }
 
 // ----- painting and the event filter ------------------------------------------------------------

@@ -3,23 +3,23 @@
 #include "norvalex_lighting.h"
 
 #include <QList>
-#include <QMap>
-#include <QPixmap>
 #include <QPolygon>
-#include <QString>
 #include <QWidget>
 
 #include <memory>
 
 class LightingDeck;
 class Memory_RGB_View;
+class ModeControls;
 class Palette_draw_rect;
-class QButtonGroup;
+class ProfileButtons;
 class QLabel;
 class QLineEdit;
 class QPropertyAnimation;
 class QPushButton;
+class SelectionDeck;
 class SlotLayout;
+class SlotOrder;
 class StripSelection;
 class Widget_Light_Mode_View;
 
@@ -28,7 +28,10 @@ class Widget_Light_Mode_View;
 // page as a signal for the controller; the controller pushes the library's state back in through
 // setLighting, setRGB and the slot-layout setters. The page owns its state and wires its
 // helpers: LightingDeck builds the control deck (with ColorEntry for the colour channels),
-// SlotLayout arranges the slots and runs Edit mode, StripSelection selects LEDs.
+// ModeControls fills its combos for a light mode, SelectionDeck shows the selected modules in
+// it, SlotLayout arranges the slots and runs Edit mode, SlotOrder keeps their order and drags a
+// strip in Edit mode, and
+// StripSelection selects LEDs.
 class Lighting_View : public QWidget
 {
     Q_OBJECT
@@ -108,27 +111,12 @@ private slots:
     void returnFromModeList();
 
 private:
-    void buildLightModeMap();
-    void createProfileButtons();
-    void connectControls();
     void applyLanguageFonts();
 
     // Shared steps.
     bool isEditMode() const;
     bool isSlotChecked(int slot) const;
-    QString lightModeName(int lightMode);
-    int colorComboIndexFor(int colorMode);
-    int colorModeOfComboText();
-    float moduleBrightness(int slot) const;
-    void applyMbSyncRule(int lightMode);
-    void showSelectedControls();
-    void showModuleColor(int slot);
-    void finishEditMode();
     void commitLineEdit(int channel);
-
-    // Slot dragging in Edit mode.
-    void pickUpStrip(int slot, const QPoint& pos);
-    void dropStrip(const QPoint& pos);
 
     // Per-module lighting state, by slot.
     MemoryModuleData memoryData[SlotCount];
@@ -136,12 +124,10 @@ private:
     int currentColorMode = 0;
     int currentLightSpeed = 0;
 
-    QMap<int, QString> lightModeMap;
-    QMap<QString, int> colorModeStandMap;
-    QMap<QString, int> colorModeMap;
-
-    // The control deck and the light-mode list below its mode button.
+    // The control deck, what it shows, and the light-mode list below its mode button.
     std::unique_ptr<LightingDeck> deck;
+    std::unique_ptr<ModeControls> modes;
+    std::unique_ptr<SelectionDeck> selectionDeck;
     Widget_Light_Mode_View* widget_Light_Mode_View = nullptr;
     QLineEdit* lineEdit_R_Value = nullptr;
     QLineEdit* lineEdit_G_Value = nullptr;
@@ -158,7 +144,7 @@ private:
     int savedOrder[SlotCount] = {0, 1, 2, 3, 4, 5, 6, 7};
 
     // Profiles.
-    QButtonGroup* buttonGroup_Profile = nullptr;
+    std::unique_ptr<ProfileButtons> profiles;
     QPushButton* btn_Profile[ProfileCount] = {};
 
     // LED selection: the band, the row buttons and the outline of the selected strips.
@@ -172,7 +158,5 @@ private:
     QPolygon selectAreaPointList;
 
     // The strip picked up in Edit mode.
-    int dragSlotIndex = -1;
-    QPixmap dragPixmap;
-    QLabel* label_DragSlot = nullptr;
+    std::unique_ptr<SlotOrder> slotOrder;
 };

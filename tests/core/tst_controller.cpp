@@ -6,6 +6,7 @@
 #include "Main_View.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
+#include "QuitRequest.h"
 #include "Setting_View.h"
 #include "TestEnvironment.h"
 #include "Widget_LocationPolicy.h"
@@ -39,15 +40,6 @@ HWData hwWith(int memoryCount, int slotCount, quint32 updateTime)
         hw.memoryData[i].ledNum = i < memoryCount ? 8 : -1;
     }
     return hw;
-}
-
-// Runs `action` inside an event loop and tells whether the application was asked to quit.
-bool quitsDuring(const std::function<void()>& action)
-{
-    QEventLoop loop;
-    QTimer::singleShot(0, action);
-    QTimer::singleShot(1500, &loop, [&loop]() { loop.exit(99); });
-    return loop.exec() != 99;
 }
 
 } // namespace
@@ -412,12 +404,12 @@ void tst_Controller::quitsOnNativeMessages()
     // A quit holds for the rest of the process, so the one quitting case comes last; 0x8301 is
     // sent to a running panel by the start-up tests.
     QXRGBMemory* c = m_controller.get();
-    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8101, 1, 1); }));
-    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8302, 0, 0); }));
-    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8303, 1, 0); }));
+    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8101, 1, 1); }, 1500));
+    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8302, 0, 0); }, 1500));
+    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 1, 0); }, 1500));
     c->setProgramStart(true);
-    QVERIFY(!quitsDuring([c]() { c->handleNativeMessage(0x8303, 0, 0); }));
-    QVERIFY(quitsDuring([c]() { c->handleNativeMessage(0x8303, 1, 0); }));
+    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 0, 0); }, 1500));
+    QVERIFY(QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 1, 0); }, 1500));
 }
 
 QTEST_MAIN(tst_Controller)

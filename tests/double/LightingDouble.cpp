@@ -79,6 +79,21 @@ bool validSlot(int32_t slot)
     return slot >= 0 && slot < NX_MODULE_COUNT;
 }
 
+// Records the call and returns the field of the slot's module, or `invalid` for a bad slot.
+template <typename T> T moduleValue(const char* name, int32_t slot, T Module::*field, T invalid)
+{
+    record(name, join(slot));
+    return validSlot(slot) ? state().modules[slot].*field : invalid;
+}
+
+// Records the call and returns the slot's array; a bad slot gets slot 0's.
+template <typename T, std::size_t N>
+T* moduleArray(const char* name, int32_t slot, T (Module::*field)[N])
+{
+    record(name, join(slot));
+    return state().modules[validSlot(slot) ? slot : 0].*field;
+}
+
 } // namespace
 
 NX_EXPORT void SharedDLL_init(void)
@@ -134,56 +149,47 @@ NX_EXPORT void SetValueRGB(int32_t slot, COLORREF* rgb, float* bright, COLORREF 
 
 NX_EXPORT int32_t GetValueLightMode(int32_t slot)
 {
-    record("GetValueLightMode", join(slot));
-    return validSlot(slot) ? state().modules[slot].lightMode : -1;
+    return moduleValue("GetValueLightMode", slot, &Module::lightMode, int32_t(-1));
 }
 
 NX_EXPORT int32_t GetValueColorMode(int32_t slot)
 {
-    record("GetValueColorMode", join(slot));
-    return validSlot(slot) ? state().modules[slot].colorMode : -1;
+    return moduleValue("GetValueColorMode", slot, &Module::colorMode, int32_t(-1));
 }
 
 NX_EXPORT int32_t GetValueLightSpeed(int32_t slot)
 {
-    record("GetValueLightSpeed", join(slot));
-    return validSlot(slot) ? state().modules[slot].lightSpeed : -1;
+    return moduleValue("GetValueLightSpeed", slot, &Module::lightSpeed, int32_t(-1));
 }
 
 NX_EXPORT uint8_t GetValueTurnOff(int32_t slot)
 {
-    record("GetValueTurnOff", join(slot));
-    return validSlot(slot) ? state().modules[slot].turnOff : 0;
+    return moduleValue("GetValueTurnOff", slot, &Module::turnOff, uint8_t(0));
 }
 
 NX_EXPORT COLORREF* GetValueRGB(int32_t slot)
 {
-    record("GetValueRGB", join(slot));
-    return state().modules[validSlot(slot) ? slot : 0].rgb;
+    return moduleArray("GetValueRGB", slot, &Module::rgb);
 }
 
 NX_EXPORT COLORREF GetValueSingleRGB(int32_t slot)
 {
-    record("GetValueSingleRGB", join(slot));
-    return validSlot(slot) ? state().modules[slot].singleRGB : 0;
+    return moduleValue("GetValueSingleRGB", slot, &Module::singleRGB, COLORREF(0));
 }
 
 NX_EXPORT float* GetValueBright(int32_t slot)
 {
-    record("GetValueBright", join(slot));
-    return state().modules[validSlot(slot) ? slot : 0].bright;
+    return moduleArray("GetValueBright", slot, &Module::bright);
 }
 
 NX_EXPORT float GetValueSingleBright(int32_t slot)
 {
-    record("GetValueSingleBright", join(slot));
-    return validSlot(slot) ? state().modules[slot].singleBright : 0.0f;
+    return moduleValue("GetValueSingleBright", slot, &Module::singleBright, 0.0f);
 }
 
 NX_EXPORT COLORREF* GetValueSoftwareRGB(int32_t slot)
 {
-    record("GetValueSoftwareRGB", join(slot));
-    return state().modules[validSlot(slot) ? slot : 0].software;
+    return moduleArray("GetValueSoftwareRGB", slot, &Module::software);
 }
 
 NX_EXPORT HWData GetValueHWData(void)

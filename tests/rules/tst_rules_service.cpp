@@ -4,62 +4,42 @@
 #include "DesktopStandIns.h"
 #include "FixtureRoot.h"
 #include "RawClient.h"
-#include "SocketPath.h"
+#include "ServiceProcess.h"
 
-#include <QProcess>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 
-// One norvalex-control run with its own runtime and config folders and a captured log.
+// One norvalex-control run with its own runtime and config folders, the session bus standing in
+// for the system bus, and its log kept. The machine's own modules unless the arguments choose.
 class Service
 {
 public:
-    explicit Service(const QStringList& arguments)
+    explicit Service(QStringList arguments) : process_(runtime_.path(), config_.path())
     {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime_.path());
-        env.insert(QStringLiteral("XDG_CONFIG_HOME"), config_.path());
-        env.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
-                   env.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS")));
-        env.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.debug=false"));
-        process_.setProcessEnvironment(env);
-        process_.setProcessChannelMode(QProcess::MergedChannels);
-        process_.start(QStringLiteral(NX_CONTROL_EXECUTABLE), arguments);
-    }
-    ~Service()
-    {
-        process_.terminate();
-        if (!process_.waitForFinished(5000))
-            process_.kill();
-        process_.waitForFinished(2000);
-    }
-    QString socketPath() const
-    {
-        return runtime_.path() + QLatin1Char('/') + QLatin1String(nxproto::kSocketFileName);
+        process_.setEnvironment(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
+                                qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"));
+        process_.setEnvironment(QStringLiteral("QT_LOGGING_RULES"),
+                                QStringLiteral("*.debug=false"));
+        process_.captureErrors();
+        if (arguments.filter(QStringLiteral("--modules")).isEmpty())
+            arguments << QStringLiteral("--modules=auto");
+        started_ = process_.start(arguments);
     }
     QString configPath() const { return config_.path(); }
     QString log()
     {
-        log_ += QString::fromUtf8(process_.readAll());
+        log_ += process_.readAllErrors();
         return log_;
     }
-    bool connect(RawClient& client)
-    {
-        QElapsedTimer clock;
-        clock.start();
-        while (clock.elapsed() < 10000) {
-            if (client.connectTo(socketPath()))
-                return true;
-            QTest::qWait(50);
-        }
-        return false;
-    }
+    bool connect(RawClient& client) { return started_ && client.connectTo(process_.socketPath()); }
 
 private:
     QTemporaryDir runtime_;
     QTemporaryDir config_;
-    QProcess process_;
+    ServiceProcess process_;
+    bool started_ = false;
     QString log_;
 };
 
@@ -81,6 +61,16 @@ NotiEventData rulesOff()
     noti.shutdownCPUValue = 90;
     noti.fanSpeedValue = 70;
     return noti;
+}
+
+// The first hardware report a new client of the service receives.
+bool readHardware(Service& service, nxproto::HardwareInfo& hardware)
+{
+    RawClient client;
+    nxproto::Frame frame;
+    return service.connect(client) &&
+           client.waitFor(nxproto::MessageType::Hardware, &frame, 5000) &&
+           nxproto::decodeHardware(frame, hardware, nullptr);
 }
 
 void setCpuTemperature(fixture::Root& root, int milli)
@@ -141,12 +131,8 @@ void TestRulesService::moduleSources()
                        fixture::ddr4Spd(625, 13750, 13750, ((1u << 15) - 1) << 3));
     {
         Service service({QStringLiteral("--root"), machine.path()});
-        RawClient client;
-        QVERIFY(service.connect(client));
-        nxproto::Frame frame;
         nxproto::HardwareInfo hardware;
-        QVERIFY(client.waitFor(nxproto::MessageType::Hardware, &frame, 5000));
-        QVERIFY(nxproto::decodeHardware(frame, hardware, nullptr));
+        QVERIFY(readHardware(service, hardware));
         QCOMPARE(hardware.memoryCount, 2);
         QCOMPARE(hardware.channel, 2);
         QCOMPARE(hardware.casLatency, 22.0);
@@ -164,12 +150,8 @@ void TestRulesService::moduleSources()
           QStringList{QStringLiteral("--root"), QDir::tempPath() + QStringLiteral("/nx-none")}}) {
         QDir().mkpath(QDir::tempPath() + QStringLiteral("/nx-none"));
         Service service(arguments);
-        RawClient client;
-        QVERIFY(service.connect(client));
-        nxproto::Frame frame;
         nxproto::HardwareInfo hardware;
-        QVERIFY(client.waitFor(nxproto::MessageType::Hardware, &frame, 5000));
-        QVERIFY(nxproto::decodeHardware(frame, hardware, nullptr));
+        QVERIFY(readHardware(service, hardware));
         QCOMPARE(hardware.memoryCount, 4);
         QCOMPARE(hardware.modules[0].modelCode, std::string("KX44"));
         QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("modules: simulated")),

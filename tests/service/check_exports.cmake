@@ -1,17 +1,7 @@
 # Compares the dynamic symbols a shared library defines with the expected list.
 # Usage: cmake -DNM=<nm> -DLIBRARY=<file> -DEXPECTED=<a;b;...> -P check_exports.cmake
-execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY}
-                OUTPUT_VARIABLE listing RESULT_VARIABLE result)
-if(NOT result EQUAL 0)
-  message(FATAL_ERROR "nm failed on the library")
-endif()
-string(REPLACE "\n" ";" lines "${listing}")
-set(found "")
-foreach(line IN LISTS lines)
-  if(line MATCHES "^[0-9a-fA-F]+ [A-Za-z] (.+)$")
-    list(APPEND found ${CMAKE_MATCH_1})
-  endif()
-endforeach()
+include(${CMAKE_CURRENT_LIST_DIR}/ToolListing.cmake)
+nx_tool_listing(found "^[0-9a-fA-F]+ [A-Za-z] (.+)$" ${NM} -D --defined-only ${LIBRARY})
 list(SORT found)
 set(expected ${EXPECTED})
 list(SORT expected)

@@ -97,8 +97,10 @@ int fsync(int fd)
     return realFsync(fd);
 }
 
-static int openWith(const char* symbol, const char* path, int flags, mode_t mode)
+/* The mode argument is there only when the flags create a file. */
+static int openWith(const char* symbol, const char* path, int flags, va_list args)
 {
+    const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) ? (mode_t)va_arg(args, int) : 0;
     int (*realOpen)(const char*, int, ...) =
         (int (*)(const char*, int, ...))dlsym(RTLD_NEXT, symbol);
     if ((flags & O_CREAT) && strstr(path, kTarget) && faulty("erofs")) {
@@ -110,26 +112,20 @@ static int openWith(const char* symbol, const char* path, int flags, mode_t mode
 
 int open(const char* path, int flags, ...)
 {
-    mode_t mode = 0;
-    if (flags & (O_CREAT | O_TMPFILE)) {
-        va_list args;
-        va_start(args, flags);
-        mode = (mode_t)va_arg(args, int);
-        va_end(args);
-    }
-    return openWith("open", path, flags, mode);
+    va_list args;
+    va_start(args, flags);
+    const int fd = openWith("open", path, flags, args);
+    va_end(args);
+    return fd;
 }
 
 int open64(const char* path, int flags, ...)
 {
-    mode_t mode = 0;
-    if (flags & (O_CREAT | O_TMPFILE)) {
-        va_list args;
-        va_start(args, flags);
-        mode = (mode_t)va_arg(args, int);
-        va_end(args);
-    }
-    return openWith("open64", path, flags, mode);
+    va_list args;
+    va_start(args, flags);
+    const int fd = openWith("open64", path, flags, args);
+    va_end(args);
+    return fd;
 }
 
 int rename(const char* from, const char* to)

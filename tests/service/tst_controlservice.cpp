@@ -1,8 +1,7 @@
 // The protocol's codecs, and the service as a process driven through its socket without the
 // library: a kill in the middle of a burst of changes, and frames it must refuse.
 
-#include "RawClient.h"
-#include "ServiceProcess.h"
+#include "ServiceHome.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -19,30 +18,11 @@ class TestControlService : public QObject
 {
     Q_OBJECT
 
-    // One directory serves as the service's runtime and config directory.
-    std::unique_ptr<QTemporaryDir> dir_;
-    std::unique_ptr<ServiceProcess> service_;
-
-    StateMessage connectAndReadState(RawClient& client)
-    {
-        StateMessage state;
-        if (!client.connectTo(service_->socketPath()) || !client.waitForState(&state))
-            qWarning("no state from the service");
-        return state;
-    }
+    ServiceHome home_;
 
 private slots:
-    void init()
-    {
-        // Writing to a connection the service has just closed must not end the test.
-        std::signal(SIGPIPE, SIG_IGN);
-        dir_ = std::make_unique<QTemporaryDir>();
-        QVERIFY(dir_->isValid());
-        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
-        QVERIFY(service_->start());
-    }
-
-    void cleanup() { service_.reset(); }
+    void init() { QVERIFY(home_.setUp()); }
+    void cleanup() { home_.tearDown(); }
 
     // Requests come through encoding and decoding whole, however the stream is cut.
     void roundTripOverAnySplit()
@@ -116,7 +96,7 @@ private slots:
     void killedDuringBurstRestartsConsistent()
     {
         RawClient client;
-        connectAndReadState(client);
+        home_.connectAndReadState(client);
         // Each round sets slot 0 then slot 1 to the same mode, so a consistent file has slot 1
         // equal to slot 0 or one round behind.
         const int killAt = 100 + QRandomGenerator::global()->bounded(150);
@@ -126,12 +106,12 @@ private slots:
             if (round % 20 == 0)
                 QTest::qWait(15);
         }
-        service_->kill();
-        QVERIFY(service_->start());
+        home_->kill();
+        QVERIFY(home_->start());
         RawClient after;
-        StateMessage state = connectAndReadState(after);
+        StateMessage state = home_.connectAndReadState(after);
         const QStringList files =
-            QDir(dir_->filePath(QStringLiteral("norvalex"))).entryList(QDir::Files | QDir::Hidden);
+            QDir(home_.filePath(QStringLiteral("norvalex"))).entryList(QDir::Files | QDir::Hidden);
         QCOMPARE(files, QStringList{QStringLiteral("control-state.json")}); // nothing set aside
         const int first = state.state.module(0).lightMode;
         const int second = state.state.module(1).lightMode;
@@ -141,10 +121,10 @@ private slots:
         // A change followed by a pause is on disk when the kill comes.
         QVERIFY(after.waitForState(&state, after.send(lightingRequest(5, 33))));
         QTest::qWait(500);
-        service_->kill();
-        QVERIFY(service_->start());
+        home_->kill();
+        QVERIFY(home_->start());
         RawClient third;
-        QCOMPARE(connectAndReadState(third).state.module(5).lightMode, 33);
+        QCOMPARE(home_.connectAndReadState(third).state.module(5).lightMode, 33);
     }
 
     // Each frame of the corpus gets an error with a reason and changes nothing; seeded random
@@ -152,7 +132,7 @@ private slots:
     void malformedFramesChangeNothing()
     {
         RawClient watcher;
-        const StateMessage before = connectAndReadState(watcher);
+        const StateMessage before = home_.connectAndReadState(watcher);
         const std::vector<uint8_t> good = encodeRequest(lightingRequest(3, 12));
         const std::vector<uint8_t> payload(good.begin() + kHeaderSize, good.end());
         Request nanBright;
@@ -173,7 +153,7 @@ private slots:
         };
         for (const QByteArray& bytes : corpus) {
             RawClient client;
-            QVERIFY(client.connectTo(service_->socketPath()));
+            QVERIFY(client.connectTo(home_->socketPath()));
             client.sendBytes(bytes);
             Frame reply;
             ErrorMessage error;
@@ -183,7 +163,7 @@ private slots:
         }
         QCOMPARE(watcher.countFor(MessageType::State, 100), 0);
         RawClient probe;
-        QVERIFY(connectAndReadState(probe).state == before.state);
+        QVERIFY(home_.connectAndReadState(probe).state == before.state);
 
         const QByteArray seeds[] = {bytesOf(good), corpus[5], corpus[9]};
         QRandomGenerator random(20240611);
@@ -191,7 +171,7 @@ private slots:
         for (int i = 0; i < 300; ++i) {
             if (i % 10 == 0 && !(client && client->isConnected())) {
                 client = std::make_unique<RawClient>();
-                QVERIFY(client->connectTo(service_->socketPath()));
+                QVERIFY(client->connectTo(home_->socketPath()));
             }
             QByteArray frame = seeds[random.bounded(3)];
             const int choice = random.bounded(3);
@@ -205,12 +185,12 @@ private slots:
             if (i % 10 == 9)
                 client->countFor(MessageType::State, 5);
         }
-        QVERIFY(service_->isRunning());
+        QVERIFY(home_->isRunning());
         StateMessage applied;
         QVERIFY(watcher.waitForState(&applied, watcher.send(lightingRequest(4, 21))));
         QCOMPARE(applied.state.module(4).lightMode, 21);
-        QVERIFY(service_->terminate());
-        QCOMPARE(service_->exitCode(), 0);
+        QVERIFY(home_->terminate());
+        QCOMPARE(home_->exitCode(), 0);
     }
 };
 

@@ -1,8 +1,7 @@
 // The service's state through faults, driven as a process through its socket: requests that
 // change nothing, kills in the middle of bursts, and saves that cannot complete.
 
-#include "RawClient.h"
-#include "ServiceProcess.h"
+#include "ServiceHome.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -36,33 +35,16 @@ class TestServiceState : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> dir_;
-    std::unique_ptr<ServiceProcess> service_;
+    ServiceHome home_;
 
     QString statePath() const
     {
-        return dir_->filePath(QStringLiteral("norvalex/control-state.json"));
-    }
-
-    StateMessage connectAndReadState(RawClient& client, uint64_t clientId = 0)
-    {
-        StateMessage state;
-        if (!client.connectTo(service_->socketPath(), clientId) || !client.waitForState(&state))
-            qWarning("no state from the service");
-        return state;
+        return home_.filePath(QStringLiteral("norvalex/control-state.json"));
     }
 
 private slots:
-    void init()
-    {
-        std::signal(SIGPIPE, SIG_IGN);
-        dir_ = std::make_unique<QTemporaryDir>();
-        QVERIFY(dir_->isValid());
-        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
-        QVERIFY(service_->start());
-    }
-
-    void cleanup() { service_.reset(); }
+    void init() { QVERIFY(home_.setUp()); }
+    void cleanup() { home_.tearDown(); }
 
     // A request that leaves the state as it was is acknowledged to its sender only: no change
     // mask, no push to the others, no save. A real change still reaches everyone.
@@ -70,8 +52,8 @@ private slots:
     {
         RawClient watcher;
         RawClient editor;
-        const StateMessage initial = connectAndReadState(watcher);
-        connectAndReadState(editor);
+        const StateMessage initial = home_.connectAndReadState(watcher);
+        home_.connectAndReadState(editor);
         QTRY_VERIFY(QFileInfo::exists(statePath()));
         const QString savedVersion = fileVersion(statePath());
 
@@ -125,8 +107,8 @@ private slots:
     {
         RawClient editor;
         RawClient switcher;
-        connectAndReadState(editor);
-        connectAndReadState(switcher);
+        home_.connectAndReadState(editor);
+        home_.connectAndReadState(switcher);
         Request profile;
         profile.type = MessageType::SetProfile;
         profile.profile = 2;
@@ -156,7 +138,7 @@ private slots:
         int acknowledged = 0;
         for (int kill = 0; kill < kKills; ++kill) {
             RawClient client;
-            connectAndReadState(client);
+            home_.connectAndReadState(client);
             // seq -> (slot, value): each change gives its slot a new, larger value in LED 0.
             QHash<uint32_t, QPair<int, uint32_t>> made;
             uint32_t ackedValue[kSlotCount] = {};
@@ -188,14 +170,14 @@ private slots:
                     take(state);
             }
             QThread::usleep(random.bounded(3000));
-            service_->kill();
+            home_->kill();
             StateMessage late;
             while (client.waitForState(&late, 0, 200))
                 take(late);
 
-            QVERIFY(service_->start());
+            QVERIFY(home_->start());
             RawClient after;
-            const StateMessage restarted = connectAndReadState(after);
+            const StateMessage restarted = home_.connectAndReadState(after);
             for (int slot = 0; slot < kSlotCount; ++slot) {
                 const uint32_t kept = restarted.state.module(slot).rgb[0];
                 // Not lost, and not invented: an untouched slot keeps its default.
@@ -206,7 +188,7 @@ private slots:
                                         .arg(kept)
                                         .arg(ackedValue[slot])));
             }
-            const QStringList files = QDir(dir_->filePath(QStringLiteral("norvalex")))
+            const QStringList files = QDir(home_.filePath(QStringLiteral("norvalex")))
                                           .entryList(QDir::Files | QDir::Hidden | QDir::System);
             QCOMPARE(files, QStringList{QStringLiteral("control-state.json")});
         }
@@ -218,19 +200,18 @@ private slots:
     // each failing episode and one for its end.
     void failedSavesKeepTheGoodFile()
     {
-        service_->kill();
-        const QString control = dir_->filePath(QStringLiteral("fault"));
-        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
-        service_->setEnvironment(QStringLiteral("LD_PRELOAD"), QStringLiteral(NX_FAULT_SHIM));
-        service_->setEnvironment(QStringLiteral("NX_FAULT_CONTROL"), control);
-        service_->setEnvironment(QStringLiteral("QT_LOGGING_RULES"),
-                                 QStringLiteral("*.debug=false"));
-        service_->captureErrors();
-        QVERIFY(service_->start());
+        home_->kill();
+        const QString control = home_.filePath(QStringLiteral("fault"));
+        home_.renew();
+        home_->setEnvironment(QStringLiteral("LD_PRELOAD"), QStringLiteral(NX_FAULT_SHIM));
+        home_->setEnvironment(QStringLiteral("NX_FAULT_CONTROL"), control);
+        home_->setEnvironment(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.debug=false"));
+        home_->captureErrors();
+        QVERIFY(home_->start());
         RawClient client;
         RawClient other;
-        connectAndReadState(client);
-        connectAndReadState(other);
+        home_.connectAndReadState(client);
+        home_.connectAndReadState(other);
         StateMessage state;
         QVERIFY(client.waitForState(&state, client.send(lightingRequest(0, 1))));
         QVERIFY(other.waitForState(&state));
@@ -262,17 +243,17 @@ private slots:
             QVERIFY(good.contains("\"lightMode\": " + QByteArray::number(mode)));
             ++mode;
         }
-        QVERIFY(service_->terminate());
-        const QString log = service_->readAllErrors();
+        QVERIFY(home_->terminate());
+        const QString log = home_->readAllErrors();
         QCOMPARE(log.count(QStringLiteral("cannot save the state")), 4);
         QCOMPARE(log.count(QStringLiteral("state saved again")), 4);
         QVERIFY2(log.contains(QStringLiteral("No space left on device")), qPrintable(log));
 
         // What the last episode kept is what a restart finds.
-        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
-        QVERIFY(service_->start());
+        home_.renew();
+        QVERIFY(home_->start());
         RawClient after;
-        QCOMPARE(connectAndReadState(after).state.module(0).lightMode, mode - 1);
+        QCOMPARE(home_.connectAndReadState(after).state.module(0).lightMode, mode - 1);
     }
 
     // Whatever sits at the state path, the service starts at once with defaults, sets the thing
@@ -280,7 +261,7 @@ private slots:
     // private. A lock file that names no process does not keep it from starting.
     void unusualFilesAtStart()
     {
-        QVERIFY(service_->terminate());
+        QVERIFY(home_->terminate());
         const QString folder = QFileInfo(statePath()).absolutePath();
         const QString lookAlike = statePath() + QStringLiteral(".a1B2c3");
         QFile user(lookAlike);
@@ -296,11 +277,11 @@ private slots:
         for (const auto& make : makers) {
             QVERIFY(QFile::remove(statePath()) || !QFileInfo::exists(statePath()));
             QVERIFY(make());
-            QVERIFY(service_->start());
+            QVERIFY(home_->start());
             RawClient client;
-            QVERIFY(connectAndReadState(client).state == defaultControlState());
-            QVERIFY(service_->terminate());
-            QCOMPARE(service_->exitCode(), 0);
+            QVERIFY(home_.connectAndReadState(client).state == defaultControlState());
+            QVERIFY(home_->terminate());
+            QCOMPARE(home_->exitCode(), 0);
             QVERIFY(QFileInfo(statePath()).isFile() && !QFileInfo(statePath()).isSymLink());
             QCOMPARE(
                 QDir(folder)
@@ -321,14 +302,14 @@ private slots:
         QCOMPARE(int(info.st_mode & 0777), 0700);
 
         const QString lock =
-            dir_->filePath(QStringLiteral("norvalex-mutex-NORVALEX_Control.exe.lock"));
+            home_.filePath(QStringLiteral("norvalex-mutex-NORVALEX_Control.exe.lock"));
         for (const QByteArray& junk : {QByteArray(), QByteArray("not a lock\n\x01\x02")}) {
             QFile lockFile(lock);
             QVERIFY(lockFile.open(QIODevice::WriteOnly | QIODevice::Truncate));
             lockFile.write(junk);
             lockFile.close();
-            QVERIFY2(service_->start(), junk.constData());
-            QVERIFY(service_->terminate());
+            QVERIFY2(home_->start(), junk.constData());
+            QVERIFY(home_->terminate());
         }
     }
 };

@@ -2,6 +2,7 @@
 
 #include "Loading_View.h"
 #include "Platform.h"
+#include "QuitRequest.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -21,15 +22,6 @@ void record(void* context, unsigned message, std::uintptr_t wParam, std::intptr_
         << QStringLiteral("%1 %2 %3").arg(message, 0, 16).arg(wParam).arg(lParam);
 }
 
-// Runs `action` inside the application's event loop and tells whether it asked the
-// application to quit. The application's own exec() clears the quit request afterwards.
-bool requestsQuit(const std::function<void()>& action)
-{
-    QObject guard; // takes the time-out with it
-    QTimer::singleShot(3000, &guard, []() { QCoreApplication::exit(1); });
-    QTimer::singleShot(0, action);
-    return QCoreApplication::exec() == 0;
-}
 } // namespace
 
 class TestLoadingView : public QObject
@@ -98,7 +90,7 @@ void TestLoadingView::closeAppTellsTheRunningPrograms()
     const auto clickOK = [&view]() { QTest::mouseClick(view.btn_OK, Qt::LeftButton); };
 
     // Neither program holds its name: nobody is told, the application still quits.
-    QVERIFY(requestsQuit(clickOK));
+    QVERIFY(QuitRequest::during(clickOK, 3000));
     QVERIFY(panel.isEmpty() && control.isEmpty());
 
     // Both running: each window gets the quit message with 1, 1.
@@ -107,13 +99,13 @@ void TestLoadingView::closeAppTellsTheRunningPrograms()
     QVERIFY(!existed);
     Platform::MutexHandle controlName = Platform::createMutex(L"NORVALEX Control.exe", &existed);
     QVERIFY(!existed);
-    QVERIFY(requestsQuit(clickOK));
+    QVERIFY(QuitRequest::during(clickOK, 3000));
     QCOMPARE(panel, QStringList{"8301 1 1"});
     QCOMPARE(control, QStringList{"8301 1 1"});
 
     // Only the control service running.
     Platform::closeHandle(panelName);
-    QVERIFY(requestsQuit(clickOK));
+    QVERIFY(QuitRequest::during(clickOK, 3000));
     QCOMPARE(panel.size(), 1);
     QCOMPARE(control.size(), 2);
 

@@ -8,6 +8,7 @@
 #include "Main_View.h"
 #include "Noti_View.h"
 #include "Platform.h"
+#include "QuitRequest.h"
 #include "Setting_View.h"
 
 #include <QButtonGroup>
@@ -19,18 +20,6 @@
 
 #include <functional>
 #include <memory>
-
-namespace {
-// Runs `action` inside the application's event loop and tells whether it asked the
-// application to quit. The application's own exec() clears the quit request afterwards.
-bool requestsQuit(const std::function<void()>& action)
-{
-    QObject guard; // takes the time-out with it
-    QTimer::singleShot(300, &guard, []() { QCoreApplication::exit(1); });
-    QTimer::singleShot(0, action);
-    return QCoreApplication::exec() == 0;
-}
-} // namespace
 
 class TestMainView : public QObject
 {
@@ -286,15 +275,15 @@ void TestMainView::nativeMessages()
         return [view, id, wParam]() { view->handleNativeMessage(id, wParam, 0); };
     };
     // 0x8303 quits only a panel the control service started, and only with a non-zero wParam.
-    QVERIFY(!requestsQuit(message(Platform::kMessageQuitIfOpened, 1)));
-    QVERIFY(!requestsQuit(message(Platform::kMessageRaise, 1)));
+    QVERIFY(!QuitRequest::during(message(Platform::kMessageQuitIfOpened, 1), 300));
+    QVERIFY(!QuitRequest::during(message(Platform::kMessageRaise, 1), 300));
     programStarted = true;
-    QVERIFY(!requestsQuit(message(Platform::kMessageQuitIfOpened, 0)));
-    QVERIFY(requestsQuit(message(Platform::kMessageQuitIfOpened, 1)));
+    QVERIFY(!QuitRequest::during(message(Platform::kMessageQuitIfOpened, 0), 300));
+    QVERIFY(QuitRequest::during(message(Platform::kMessageQuitIfOpened, 1), 300));
     programStarted = false;
     // 0x8301 always quits, here through the platform layer.
-    QVERIFY(
-        requestsQuit([window]() { Platform::sendMessage(window, Platform::kMessageQuit, 1, 1); }));
+    QVERIFY(QuitRequest::during(
+        [window]() { Platform::sendMessage(window, Platform::kMessageQuit, 1, 1); }, 300));
 
     // The frame stops listening when it goes.
     frame.reset();

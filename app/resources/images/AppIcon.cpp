@@ -65,12 +65,8 @@ void paintAppIcon(QPainter& painter, qreal size)
 
 QImage drawAppIcon()
 {
-    QImage image(kRasterSize, kRasterSize, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintAppIcon(painter, kRasterSize);
-    return image;
+    return Shapes::painted(kRasterSize, kRasterSize,
+                           [](QPainter& painter) { paintAppIcon(painter, kRasterSize); });
 }
 } // namespace
 

@@ -1,8 +1,6 @@
 // The slim accent bar that marks the chosen menu entry.
 #include "ImageRegistry.h"
-
-#include <QLinearGradient>
-#include <QPainter>
+#include "Shapes.h"
 
 namespace {
 constexpr int kWidth = 4;
@@ -14,17 +12,14 @@ const QColor kBottom(32, 158, 199);
 
 QImage drawMenu_Bar()
 {
-    QImage image(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient fill(0, 0, 0, kHeight);
-    fill.setColorAt(0.0, kTop);
-    fill.setColorAt(1.0, kBottom);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(fill);
-    painter.drawRoundedRect(QRectF(0, 0, kWidth, kHeight), kRadius, kRadius);
-    return image;
+    return Shapes::painted(kWidth, kHeight, [](QPainter& painter) {
+        QLinearGradient fill(0, 0, 0, kHeight);
+        fill.setColorAt(0.0, kTop);
+        fill.setColorAt(1.0, kBottom);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(fill);
+        painter.drawRoundedRect(QRectF(0, 0, kWidth, kHeight), kRadius, kRadius);
+    });
 }
 } // namespace
 

@@ -43,14 +43,11 @@ void drawWord(QPainter& painter)
 
 QImage drawQX_Logo()
 {
-    QImage image(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    Shapes::logoMark(
-        painter, QRectF(0, (kHeight - kTextHeight) / 2.0, kMarkWidth + kMarkSlant, kTextHeight));
-    drawWord(painter);
-    return image;
+    return Shapes::painted(kWidth, kHeight, [](QPainter& painter) {
+        Shapes::logoMark(painter, QRectF(0, (kHeight - kTextHeight) / 2.0, kMarkWidth + kMarkSlant,
+                                         kTextHeight));
+        drawWord(painter);
+    });
 }
 } // namespace
 

@@ -10,6 +10,24 @@
 
 namespace Shapes {
 
+// A transparent picture of `width` x `height`, painted antialiased by `paint(QPainter&)`.
+template <typename Paint> QImage painted(int width, int height, Paint paint)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paint(painter);
+    painter.end();
+    return image;
+}
+
+// The pen of the frame's window-button glyphs (close, minimise): thin, light grey, round caps.
+inline QPen windowGlyphPen()
+{
+    return QPen(QColor(205, 208, 212), 1.6, Qt::SolidLine, Qt::RoundCap);
+}
+
 // A round switch knob: a halo (glow or shadow) behind a shaded ball lit from the upper left,
 // with a specular highlight.
 struct KnobLook {
@@ -28,12 +46,8 @@ struct KnobLook {
     int shineAlpha = 170;
 };
 
-inline QImage knob(const KnobLook& look)
+inline void paintKnob(QPainter& painter, const KnobLook& look)
 {
-    QImage image(look.size, look.size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QPointF centre(look.size / 2.0, look.size / 2.0);
     const qreal edge = look.size / 2.0;
 
@@ -61,23 +75,24 @@ inline QImage knob(const KnobLook& look)
     painter.setPen(Qt::NoPen);
     painter.setBrush(shine);
     painter.drawEllipse(shineCentre, look.shine, look.shine);
-    return image;
+}
+
+inline QImage knob(const KnobLook& look)
+{
+    return painted(look.size, look.size, [&look](QPainter& painter) { paintKnob(painter, look); });
 }
 
 // A 14 x 8 drop-down chevron.
 inline QImage chevron(const QColor& colour)
 {
-    QImage image(14, 8, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    QPainterPath path;
-    path.moveTo(2.0, 1.5);
-    path.lineTo(7.0, 6.5);
-    path.lineTo(12.0, 1.5);
-    painter.drawPath(path);
-    return image;
+    return painted(14, 8, [&colour](QPainter& painter) {
+        painter.setPen(QPen(colour, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        QPainterPath path;
+        path.moveTo(2.0, 1.5);
+        path.lineTo(7.0, 6.5);
+        path.lineTo(12.0, 1.5);
+        painter.drawPath(path);
+    });
 }
 
 // The logo's mark: two slanted accent bars, the second shorter, reading as a stylised "N" and

@@ -1,0 +1,17 @@
+# nx_tool_listing(<out> <pattern> <command>...): runs the command and sets <out> to the first
+# capture of <pattern> on each line of its output. A failing command ends the script.
+function(nx_tool_listing out pattern)
+  execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE listing RESULT_VARIABLE result)
+  if(NOT result EQUAL 0)
+    get_filename_component(tool "${ARGV2}" NAME)
+    message(FATAL_ERROR "${tool} failed")
+  endif()
+  string(REPLACE "\n" ";" lines "${listing}")
+  set(found "")
+  foreach(line IN LISTS lines)
+    if(line MATCHES "${pattern}")
+      list(APPEND found ${CMAKE_MATCH_1})
+    endif()
+  endforeach()
+  set(${out} "${found}" PARENT_SCOPE)
+endfunction()
