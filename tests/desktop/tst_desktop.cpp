@@ -107,9 +107,16 @@ public:
     {
         if (!Platform::mutexExists(L"NORVALEX Control.exe"))
             return;
-        Platform::sendMessage(Platform::findWindow(L"NORVALEX RGB Control"), Platform::kMessageQuit,
-                              0, 0);
-        QTRY_VERIFY_WITH_TIMEOUT(!Platform::mutexExists(L"NORVALEX Control.exe"), kWaitMs);
+        // A service still starting holds its mutex before it listens for messages: ask again
+        // until it has gone.
+        QElapsedTimer clock;
+        clock.start();
+        while (Platform::mutexExists(L"NORVALEX Control.exe") && clock.elapsed() < kWaitMs) {
+            Platform::sendMessage(Platform::findWindow(L"NORVALEX RGB Control"),
+                                  Platform::kMessageQuit, 0, 0);
+            QTest::qWait(500);
+        }
+        QVERIFY(!Platform::mutexExists(L"NORVALEX Control.exe"));
     }
 
 private:
