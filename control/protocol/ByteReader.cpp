@@ -78,4 +78,10 @@ void ByteReader::bytes(void* out, std::size_t size)
     pos_ += size;
 }
 
+void ByteReader::skip(std::size_t size)
+{
+    if (take(size))
+        pos_ += size;
+}
+
 } // namespace nxproto

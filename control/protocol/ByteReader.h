@@ -21,12 +21,16 @@ public:
     double f64();
     std::string text();
     void bytes(void* out, std::size_t size);
+    void skip(std::size_t size);
 
+    void fail() { ok_ = false; }
     bool ok() const { return ok_; }
     bool atEnd() const { return pos_ == size_; }
-    std::size_t remaining() const { return size_ - pos_; }
+    std::size_t remaining() const { return ok_ ? size_ - pos_ : 0; }
+    std::size_t position() const { return pos_; }
 
-private:
+protected:
+    // Whether `size` more bytes are there; clears ok() when not.
     bool take(std::size_t size);
 
     const uint8_t* data_;
