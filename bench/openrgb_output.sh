@@ -2,10 +2,10 @@
 # CPU and memory of the control service while its output "openrgb" streams the animated
 # default lighting (Wave) at 30 frames a second, rendered for the output alone, to N DRAM controllers. A second service with
 # --sdk-server plays the OpenRGB server. Figures are whole-process, from /proc.
-#   bash tests/openrgb/bench_openrgb_output.sh BUILD_DIR [SECONDS] [COUNTS...]
+#   bash bench/openrgb_output.sh BUILD_DIR [SECONDS] [COUNTS...]
 set -euo pipefail
 
-build=${1:?usage: bench_openrgb_output.sh BUILD_DIR [SECONDS] [COUNTS...]}
+build=${1:?usage: openrgb_output.sh BUILD_DIR [SECONDS] [COUNTS...]}
 seconds=${2:-20}
 shift $(( $# >= 2 ? 2 : 1 ))
 counts=("${@:-4 8}")
