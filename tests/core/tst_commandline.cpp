@@ -64,15 +64,12 @@ private slots:
         QTest::newRow("open") << QStringList{"open"} << A::Run << true << false;
         QTest::newRow("open, background")
             << QStringList{"open", "--background"} << A::Run << true << true;
-        QTest::newRow("background") << QStringList{"--background"} << A::Run << false << true;
         // "open" counts as the first argument only, exactly spelled.
         QTest::newRow("open second")
             << QStringList{"--background", "open"} << A::Fail << false << false;
         QTest::newRow("Open") << QStringList{"Open"} << A::Fail << false << false;
-        QTest::newRow("opened") << QStringList{"opened"} << A::Fail << false << false;
         QTest::newRow("open twice") << QStringList{"open", "open"} << A::Fail << true << false;
         QTest::newRow("unknown") << QStringList{"--bogus"} << A::Fail << false << false;
-        QTest::newRow("unknown short") << QStringList{"-x"} << A::Fail << false << false;
         QTest::newRow("value to a flag")
             << QStringList{"--background=yes"} << A::Fail << false << false;
         // Qt's own options stay QApplication's.
@@ -81,10 +78,8 @@ private slots:
         QTest::newRow("qt style") << QStringList{"-style=fusion", "-reverse"} << A::Run << false
                                   << false;
         QTest::newRow("help") << QStringList{"--help"} << A::ShowHelp << false << false;
-        QTest::newRow("h") << QStringList{"-h"} << A::ShowHelp << false << false;
         QTest::newRow("help-all") << QStringList{"--help-all"} << A::ShowHelp << false << false;
         QTest::newRow("version") << QStringList{"--version"} << A::ShowVersion << false << false;
-        QTest::newRow("v") << QStringList{"-v"} << A::ShowVersion << false << false;
     }
 
     void parse()

@@ -1,29 +1,23 @@
 // The controller against the test double library: the poll with its freshness rule, the first
 // delivery of counts and types, the request/answer roads and the hand-off of library callbacks.
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "LightingDouble.h"
 #include "Log.h"
 #include "Main_View.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
-#include "QuitRequest.h"
 #include "Setting_View.h"
 #include "TestEnvironment.h"
 #include "Widget_LocationPolicy.h"
 
+#include <QAccessible>
 #include <QtTest>
 
 #include <cstring>
 #include <memory>
 
 namespace {
-
-QStringList boxes;
-
-void recordBox(const std::wstring& text, const std::wstring&, Platform::MessageIcon)
-{
-    boxes << QString::fromStdWString(text);
-}
 
 constexpr quint32 kNow = 1'800'000'000u;
 
@@ -63,7 +57,7 @@ private slots:
     void dropsPreviewFramesThatNothingShows();
     void locationDialogAnswersOncePerChoice();
     void changesLanguageOnlyForKnownIndexes();
-    void quitsOnNativeMessages();
+    void hiddenFromAssistiveTechnology();
 
 private:
     std::unique_ptr<QXRGBMemory> m_controller;
@@ -73,13 +67,15 @@ private:
 void tst_Controller::initTestCase()
 {
     QStandardPaths::setTestModeEnabled(true);
-    Platform::setMessageBoxHook(recordBox);
+    // No message box may wait for a click.
+    Platform::setMessageBoxHook(
+        [](const std::wstring&, const std::wstring&, Platform::MessageIcon) {});
+    Accessibility::install();
 }
 
 void tst_Controller::init()
 {
     Double_reset();
-    boxes.clear();
     m_controller = std::make_unique<QXRGBMemory>(QStringLiteral(NX_DOUBLE_LIBRARY));
     m_controller->pollTimer()->stop();
     m_controller->setClock([]() { return kNow; });
@@ -244,12 +240,7 @@ void tst_Controller::readsLightingAndLedNumbers()
     QSignalSpy lighting(m_controller.get(), &QXRGBMemory::setLighting);
     m_controller->requestSetLighting();
     QCOMPARE(lighting.count(), 8);
-    const QList<QVariant> slot3 = lighting.at(3);
-    QCOMPARE(slot3.at(0).toInt(), 3);
-    QCOMPARE(slot3.at(1).toInt(), 24);
-    QCOMPARE(slot3.at(2).toInt(), 1);
-    QCOMPARE(slot3.at(3).toInt(), 0);
-    QCOMPARE(slot3.at(4).toBool(), true);
+    QCOMPARE(lighting.at(3), (QVariantList{3, 24, 1, 0, true}));
     // Each slot is read in the order turn-off, speed, colour mode, light mode.
     const QStringList calls = QString::fromUtf8(Double_calls()).split('\n', Qt::SkipEmptyParts);
     QCOMPARE(calls.mid(0, 4), (QStringList{"GetValueTurnOff(0)", "GetValueLightSpeed(0)",
@@ -399,17 +390,19 @@ void tst_Controller::changesLanguageOnlyForKnownIndexes()
     m_controller->changeLanguage(0);
 }
 
-void tst_Controller::quitsOnNativeMessages()
+// The controller's window exists for the message relay only: assistive technology must not list
+// it beside the frame, a named window with its controls below it.
+void tst_Controller::hiddenFromAssistiveTechnology()
 {
-    // A quit holds for the rest of the process, so the one quitting case comes last; 0x8301 is
-    // sent to a running panel by the start-up tests.
-    QXRGBMemory* c = m_controller.get();
-    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8101, 1, 1); }, 1500));
-    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8302, 0, 0); }, 1500));
-    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 1, 0); }, 1500));
-    c->setProgramStart(true);
-    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 0, 0); }, 1500));
-    QVERIFY(QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 1, 0); }, 1500));
+    m_controller->setAttribute(Qt::WA_DontShowOnScreen);
+    m_controller->show();
+    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(m_controller.get());
+    QVERIFY(iface && iface->state().invisible);
+    QCOMPARE(iface->childCount(), 0);
+    QVERIFY(iface->text(QAccessible::Name).isEmpty());
+    QAccessibleInterface* frame = QAccessible::queryAccessibleInterface(m_controller->mainView());
+    QCOMPARE(frame->role(), QAccessible::Window);
+    QVERIFY(!frame->state().invisible && frame->childCount() > 0);
 }
 
 QTEST_MAIN(tst_Controller)
