@@ -1,3 +1,5 @@
+#include "TestEnvironment.h"
+
 #include "Information_Slots_View.h"
 #include "Information_View.h"
 
