@@ -5,12 +5,11 @@
 // the user would look, in the pixels of a screenshot.
 #include "LightingApi.h"
 #include "PanelLayout.h"
+#include "Pixels.h"
 #include "Platform.h"
 #include "XSession.h"
 
 #include <QtTest>
-
-#include <QLabel>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -70,7 +69,7 @@ private:
 void tst_Journey::initTestCase()
 {
     QVERIFY(m_root.isValid());
-    QVERIFY2(!qEnvironmentVariableIsEmpty("DISPLAY"), "run under xvfb-run");
+    QVERIFY2(m_x.start(), "Xvfb did not start");
     m_runtime = m_root.path() + "/runtime";
     for (const char* dir : {"/runtime", "/config", "/data", "/probe-runtime"})
         QVERIFY(QDir().mkpath(m_root.path() + dir));
@@ -126,7 +125,7 @@ void tst_Journey::startPanel()
     m_panel.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_panel.start(QStringLiteral(NX_PANEL_EXECUTABLE), QStringList());
     QVERIFY(m_panel.waitForStarted(kStepMs));
-    QVERIFY2(m_x.findWindow(QStringLiteral("NORVALEX RGB"), kStartMs), "no panel window");
+    QVERIFY2(m_x.waitForWindow("NORVALEX RGB", kStartMs), "no panel window");
     // Without a window manager the keyboard follows the X input focus, given once here: a
     // focus change later would end the editing of a field.
     QVERIFY(m_x.focus());
@@ -198,7 +197,7 @@ void tst_Journey::lightsTwoModules()
         QVERIFY(m_x.click(m_layout->at(m_layout->lighting(channel.field))));
         QVERIFY(m_x.clearField());
         QVERIFY(m_x.type(QString::number(channel.value)));
-        QVERIFY(m_x.keys({"Return"}));
+        QVERIFY(m_x.keys(QStringLiteral("Return")));
     }
 
     // The brightness handle dragged from the full end to 6 of 10.
@@ -327,7 +326,7 @@ void tst_Journey::changesThresholdAndLanguage()
     QVERIFY(m_x.click(loading));
     QVERIFY(m_x.clearField());
     QVERIFY(m_x.type(QString::number(chosen)));
-    QVERIFY(m_x.keys({"Return"}));
+    QVERIFY(m_x.keys(QStringLiteral("Return")));
     QTRY_COMPARE_WITH_TIMEOUT(m_api.GetNotiEvent().loadingValue, chosen, kStepMs);
 
     const QPoint german = m_layout->languageEntry(3);
