@@ -14,30 +14,26 @@ Display* dpy(void* display)
     return static_cast<Display*>(display);
 }
 
-bool viewable(Display* display, Window window)
+// Without a window manager every top-level window is a child of the root window.
+Window findTopLevel(Display* display, const QByteArray& title)
 {
-    XWindowAttributes attributes;
-    return XGetWindowAttributes(display, window, &attributes) && attributes.map_state == IsViewable;
-}
-
-Window findIn(Display* display, Window parent, const QByteArray& title)
-{
-    char* name = nullptr;
-    if (XFetchName(display, parent, &name) && name) {
-        const bool match = title == name;
-        XFree(name);
-        if (match && viewable(display, parent))
-            return parent;
-    }
     Window root = 0;
-    Window up = 0;
+    Window parent = 0;
     Window* children = nullptr;
     unsigned count = 0;
-    if (!XQueryTree(display, parent, &root, &up, &children, &count))
+    if (!XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count))
         return 0;
     Window found = 0;
-    for (unsigned i = 0; i < count && !found; ++i)
-        found = findIn(display, children[i], title);
+    for (unsigned i = 0; i < count && !found; ++i) {
+        char* name = nullptr;
+        XWindowAttributes attributes;
+        if (XFetchName(display, children[i], &name) && name) {
+            if (title == name && XGetWindowAttributes(display, children[i], &attributes) &&
+                attributes.map_state == IsViewable)
+                found = children[i];
+            XFree(name);
+        }
+    }
     if (children)
         XFree(children);
     return found;
@@ -102,7 +98,7 @@ unsigned long XSession::waitForWindow(const QByteArray& title, int timeoutMs)
     clock.start();
     do {
         XSync(dpy(m_display), False);
-        m_window = findIn(dpy(m_display), DefaultRootWindow(dpy(m_display)), title);
+        m_window = findTopLevel(dpy(m_display), title);
         if (m_window)
             return m_window;
         QTest::qWait(100);

@@ -10,18 +10,13 @@
 // Measures of a screenshot.
 namespace Pixels {
 
-inline int luminance(QRgb c)
-{
-    return (qRed(c) * 299 + qGreen(c) * 587 + qBlue(c) * 114) / 1000;
-}
-
 inline int brightest(const QImage& image, QRect area)
 {
     int best = -1;
     area &= image.rect();
     for (int y = area.top(); y <= area.bottom(); ++y) {
         for (int x = area.left(); x <= area.right(); ++x)
-            best = std::max(best, luminance(image.pixel(x, y)));
+            best = std::max(best, qGray(image.pixel(x, y)));
     }
     return best;
 }
