@@ -1,13 +1,11 @@
 // The lighting library as the panel uses it, loaded with dlopen, against a real service
-// process: no service, persistence across a restart, profiles, a second client, a plain C
-// client.
+// process: no service, persistence across a restart, profiles, a second client, kills.
 
 #include "LightingApi.h"
 #include "RawClient.h"
 #include "ServiceProcess.h"
 
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QThread>
@@ -187,21 +185,6 @@ private slots:
             [&] { return other.waitForState(&state, 0, 100) && state.state.slotOrder[4] == 7; },
             3000));
         QCOMPARE(state.changes & ChangeSlotOrder, uint32_t(ChangeSlotOrder));
-    }
-
-    void plainCProgramReadsHardware()
-    {
-        api_.SetValueLighting(0, 31, 0, 2, false);
-        QVERIFY(QTest::qWaitFor([&] { return serviceState().module(0).lightMode == 31; }, 3000));
-        QProcess probe;
-        probe.start(QStringLiteral(NX_DLOPEN_PROBE),
-                    {QStringLiteral(NX_LIGHTING_LIBRARY), QStringLiteral("3000")});
-        QVERIFY(probe.waitForFinished(10000));
-        const QByteArray output = probe.readAllStandardOutput();
-        QCOMPARE(probe.exitCode(), 0);
-        for (const char* line : {"resolved=23\n", "memoryCount=4\n", "modelCode0=KX44\n",
-                                 "lightMode0=31\n", "unloaded=1\n"})
-            QVERIFY2(output.contains(line), output.constData());
     }
 
     // SIGKILLs in the middle of setter bursts lose no call: the library keeps each request until
