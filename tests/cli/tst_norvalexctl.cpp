@@ -49,16 +49,12 @@ class TestNorvalexctl : public QObject
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), configDir());
         process.setProcessEnvironment(env);
         process.start(QStringLiteral(NX_CTL_EXECUTABLE), arguments);
-        Run run;
-        if (!process.waitForFinished(30000)) {
+        const bool ended =
+            process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit;
+        if (!ended)
             process.kill();
-            process.waitForFinished();
-            return run;
-        }
-        run.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-        run.out = QString::fromUtf8(process.readAllStandardOutput());
-        run.err = QString::fromUtf8(process.readAllStandardError());
-        return run;
+        return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
     }
 
     // The service's state as a new client sees it.
