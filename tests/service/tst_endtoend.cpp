@@ -7,12 +7,12 @@
 #include "QXRGBMemory.h"
 #include "RawClient.h"
 #include "ServiceProcess.h"
+#include "TestEnvironment.h"
 
 #include <QtTest>
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 
 #include <ctime>
 #include <memory>
@@ -21,29 +21,21 @@ class tst_EndToEnd : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_root;
     std::unique_ptr<ServiceProcess> m_service;
 
 private slots:
     void initTestCase()
     {
+        // TestEnvironment points the panel's platform layer and the library at private runtime
+        // and config folders, where the service is started too.
         QStandardPaths::setTestModeEnabled(true);
-        QVERIFY(m_root.isValid());
-        const QString runtime = m_root.path() + "/runtime";
-        const QString config = m_root.path() + "/config";
-        QVERIFY(QDir().mkpath(runtime));
-        QVERIFY(QDir().mkpath(config));
-        QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                           QFileDevice::ExeOwner);
-        // The panel's own platform layer and the library find the service through these.
-        qputenv("XDG_RUNTIME_DIR", runtime.toLocal8Bit());
-        qputenv("XDG_CONFIG_HOME", config.toLocal8Bit());
         // A message box would wait for a click; the test reads its text instead.
         Platform::setMessageBoxHook(
             [](const std::wstring& text, const std::wstring&, Platform::MessageIcon) {
                 qWarning("message box: %s", qPrintable(QString::fromStdWString(text)));
             });
-        m_service = std::make_unique<ServiceProcess>(runtime, config);
+        m_service = std::make_unique<ServiceProcess>(TestEnvironment::runtimeDir(),
+                                                     TestEnvironment::configDir());
         QVERIFY(m_service->start());
     }
 
