@@ -204,31 +204,13 @@ void TestOrgbProtocol::damagedControllerData()
     QVERIFY(!orgb::decodeController(r.sized(), 5, &got, &error));
     QVERIFY(QString::fromStdString(error).contains("mode count"));
 
-    // A zone whose matrix size disagrees with its height and width.
-    Recording z;
-    z.u32(1);
-    for (const char* s : {"x", "v", "d", "1", "", "l"})
-        z.str(s);
-    z.u16(0);
-    z.u32(0);
-    z.u16(1);
-    z.str("zone");
-    z.u32(2);
-    z.u32(0);
-    z.u32(0);
-    z.u32(4);
-    z.u16(8 + 16);
-    z.u32(3); // 3 x 2 cells in 16 bytes
-    z.u32(2);
-    for (int i = 0; i < 4; ++i)
-        z.u32(0);
-    z.u16(0);
-    z.u32(0);
-    z.u16(0);
-    z.u16(0);
-    z.u16(0);
-    z.u32(0);
-    QVERIFY(!orgb::decodeController(z.sized(), 5, &got, &error));
+    // A zone whose matrix size disagrees with its height and width: 3 x 2 cells in 16 bytes.
+    std::vector<uint8_t> matrix = good;
+    const uint8_t header[] = {24, 0, 2, 0, 0, 0, 2, 0, 0, 0}; // size, height 2, width 2
+    const auto at = std::search(matrix.begin(), matrix.end(), std::begin(header), std::end(header));
+    QVERIFY(at != matrix.end());
+    at[2] = 3;
+    QVERIFY(!orgb::decodeController(matrix, 5, &got, &error));
     QVERIFY(QString::fromStdString(error).contains("matrix"));
 
     // A string without its NUL.
