@@ -3,9 +3,9 @@
 // reconnection and re-applying, and a server that lies about sizes.
 
 #include "ControllerData.h"
-#include "FakeOrgbServer.h"
 #include "OpenRgbOutput.h"
 #include "Recording.h"
+#include "SdkPeers.h"
 
 #include <QtTest>
 
@@ -21,7 +21,7 @@ FakeOrgbServer::Describe recorded(int leds = 5)
         if (index == 0)
             body[4] = 0; // a motherboard
         if (index >= 3) {
-            orgb::Controller extra = expectedDram(version, "I2C: /dev/i2c-1, address 0x70", 5);
+            orgb::Controller extra = expectedDram("I2C: /dev/i2c-1, address 0x70", 5);
             body = orgb::encodeController(extra, version);
         }
         return body;
@@ -115,7 +115,7 @@ void TestOpenRgbOutput::recordedConversation()
         std::string error;
         QVERIFY(orgb::decodeModeUpdate(mode->body, expected, &index, &sent, &error));
         QCOMPARE(index, 0);
-        QVERIFY(sent == expectedDram(expected, "", 5).modes[0]);
+        QVERIFY(sent == expectedDram("", 5).modes[0]);
     }
 
     // A frame goes out per controller; the same frame again sends nothing.

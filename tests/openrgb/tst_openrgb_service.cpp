@@ -4,7 +4,7 @@
 #include "ControllerData.h"
 #include "Messages.h"
 #include "RawClient.h"
-#include "SdkProbe.h"
+#include "SdkPeers.h"
 #include "SdkServer.h"
 #include "ServiceProcess.h"
 #include "TestEnvironment.h"

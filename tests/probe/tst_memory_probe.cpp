@@ -74,72 +74,29 @@ void TestMemoryProbe::meminfo()
 
 void TestMemoryProbe::smbiosDevices()
 {
-    Device ddr4;
-    ddr4.size = 8192;
-    ddr4.type = 0x1A;
-    ddr4.speed = 3200;
-    ddr4.configured = 2933;
-    ddr4.locator = QStringLiteral("ChannelA-DIMM0");
-    ddr4.bank = QStringLiteral("BANK 0");
-    ddr4.part = QStringLiteral("  F4-3200C16-8GVKB  ");
-    Device empty;
-    empty.size = 0;
-    empty.locator = QStringLiteral("ChannelA-DIMM1");
-    Device big; // 48 GiB does not fit the 16-bit field
-    big.size = 0x7FFF;
-    big.extendedSize = 49152;
-    big.type = 0x22;
-    big.speed = 0xFFFF;
-    big.configured = 0xFFFF;
-    big.extendedConfigured = 8000;
-    big.locator = QStringLiteral("DIMM_B1");
-    Device kilo; // size in kB: 0x8000 | 524288 / ... granularity
-    kilo.size = 0x8000 | 0x4000;
-    kilo.type = 0x23;
-    kilo.speed = 6400;
-    Device unknown;
-    unknown.size = 0xFFFF;
-    unknown.type = 0x02;
-
-    const QByteArray table = fixture::memoryArray(4) + fixture::memoryDevice(ddr4, 0x11) +
-                             fixture::memoryDevice(empty, 0x12) + fixture::memoryDevice(big, 0x13) +
-                             fixture::memoryDevice(kilo, 0x14) +
-                             fixture::memoryDevice(unknown, 0x15) + fixture::endOfTable() +
-                             fixture::memoryDevice(ddr4, 0x16);
-    const SmbiosMemory memory = SmbiosMemory::decode(table);
+    // {size, extended size, type, rated, configured, extended configured, locator, bank, part}
+    const Device devices[] = {
+        {8192, 0, 0x1A, 3200, 2933, 0, "ChannelA-DIMM0", "BANK 0", "  F4-3200C16-8GVKB  "},
+        {0, 0, 0x1A, 0, 0, 0, "ChannelA-DIMM1", {}, {}},                // empty
+        {0x7FFF, 49152, 0x22, 0xFFFF, 0xFFFF, 8000, "DIMM_B1", {}, {}}, // 48 GiB, 8000 MT/s
+        {0x8000 | 0x4000, 0, 0x23, 6400, 0, 0, {}, {}, {}},             // in kB; rated speed only
+        {0xFFFF, 0, 0x02, 0, 0, 0, {}, {}, {}}};                        // all unknown
+    QByteArray table = fixture::memoryArray(4);
+    for (const Device& d : devices)
+        table += fixture::memoryDevice(d, 0x11);
+    const SmbiosMemory memory =
+        SmbiosMemory::decode(table + fixture::endOfTable() + fixture::memoryDevice(devices[0], 1));
     QCOMPARE(memory.slotCount, 4);
-    QCOMPARE(int(memory.devices.size()), 5); // nothing after the end-of-table structure
-
-    const MemoryDevice& a = memory.devices.at(0);
-    QVERIFY(a.present);
-    QCOMPARE(a.sizeMB, 8192);
-    QCOMPARE(a.type, QStringLiteral("DDR4"));
-    QCOMPARE(a.speedMTs, 2933); // the configured speed wins over the rated one
-    QCOMPARE(a.partNumber, QStringLiteral("F4-3200C16-8GVKB"));
-    QCOMPARE(a.locator, QStringLiteral("ChannelA-DIMM0"));
-    QCOMPARE(a.bankLocator, QStringLiteral("BANK 0"));
-
-    const MemoryDevice& b = memory.devices.at(1);
-    QVERIFY(!b.present);
-    QCOMPARE(b.sizeMB, -1);
-    QCOMPARE(b.locator, QStringLiteral("ChannelA-DIMM1"));
-
-    const MemoryDevice& c = memory.devices.at(2);
-    QCOMPARE(c.sizeMB, 49152);
-    QCOMPARE(c.type, QStringLiteral("DDR5"));
-    QCOMPARE(c.speedMTs, 8000);
-    QVERIFY(c.partNumber.isEmpty());
-
-    const MemoryDevice& d = memory.devices.at(3);
-    QCOMPARE(d.sizeMB, 16); // 0x4000 kB
-    QCOMPARE(d.type, QStringLiteral("LPDDR5"));
-    QCOMPARE(d.speedMTs, 6400); // no configured speed: the rated one
-
-    const MemoryDevice& e = memory.devices.at(4);
-    QVERIFY(e.present);
-    QCOMPARE(e.sizeMB, -1);
-    QVERIFY(e.type.isEmpty());
-    QCOMPARE(e.speedMTs, -1);
+    QStringList read; // nothing after the end-of-table structure
+    for (const MemoryDevice& m : memory.devices)
+        read << QStringLiteral("%1 %2 %3 %4 %5 %6 %7")
+                    .arg(m.present)
+                    .arg(m.sizeMB)
+                    .arg(m.type, QString::number(m.speedMTs), m.partNumber, m.locator,
+                         m.bankLocator);
+    QCOMPARE(read, (QStringList{"1 8192 DDR4 2933 F4-3200C16-8GVKB ChannelA-DIMM0 BANK 0",
+                                "0 -1  -1  ChannelA-DIMM1 ", "1 49152 DDR5 8000  DIMM_B1 ",
+                                "1 16 LPDDR5 6400   ", "1 -1  -1   "}));
 }
 
 void TestMemoryProbe::smbiosDamagedTables()

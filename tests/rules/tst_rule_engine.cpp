@@ -203,7 +203,8 @@ void TestRuleEngine::autostartEntry()
 
 void TestRuleEngine::serviceOptions_data()
 {
-    // What the options set, as "output|SDK server|modules|root"; empty when refused.
+    // What the options set, as "output|SDK server|modules|root"; empty when refused. The
+    // output's own forms: tst_orgb_protocol::outputChoice.
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("expected");
     const QString temp = QDir::tempPath();
@@ -211,9 +212,6 @@ void TestRuleEngine::serviceOptions_data()
     QTest::newRow("none") << QStringList() << "unset||auto|";
     QTest::newRow("output default")
         << QStringList{"--output=openrgb"} << "openrgb:127.0.0.1:6742||auto|";
-    QTest::newRow("output elsewhere")
-        << QStringList{"--output", "openrgb:pc:7000"} << "openrgb:pc:7000||auto|";
-    QTest::newRow("output off") << QStringList{"--output=none"} << "none||auto|";
     QTest::newRow("server default") << QStringList{"--sdk-server"} << "unset|127.0.0.1:6743|auto|";
     QTest::newRow("server named") << QStringList{"--sdk-server=0.0.0.0:7000"}
                                   << "unset|0.0.0.0:7000|auto|";
@@ -223,8 +221,8 @@ void TestRuleEngine::serviceOptions_data()
         << QStringList{"--modules=simulated", "--root", temp} << "unset||simulated|" + root;
     // A count still means that many simulated modules.
     QTest::newRow("module count") << QStringList{"--modules=6"} << "unset||simulated 6|";
-    for (const char* bad : {"--output=wled", "--output=openrgb:h:99999", "--sdk-server=1.2.3.4:x",
-                            "--modules=real", "--modules=9", "--root=/nonexistent/nx", "--root="})
+    for (const char* bad : {"--output=wled", "--sdk-server=1.2.3.4:x", "--modules=real",
+                            "--modules=9", "--root=/nonexistent/nx", "--root="})
         QTest::newRow(bad) << QStringList{bad} << QString();
 }
 
