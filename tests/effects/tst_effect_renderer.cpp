@@ -1,6 +1,7 @@
 // The service's renderer: the canvas in slot order, and the service rendering and sending only
-// what is wanted.
+// what is wanted, to preview clients and to frame sinks.
 
+#include "ControlService.h"
 #include "EffectRenderer.h"
 #include "PrivateSoundServer.h"
 #include "RawClient.h"
@@ -52,6 +53,7 @@ class EffectRendererTest : public QObject
 private slots:
     void canvasFollowsSlotOrder();
     void rendersOnlyWhatIsWanted();
+    void sinksDriveRendering();
     void listensOnlyDuringParty();
 };
 
@@ -126,6 +128,40 @@ void EffectRendererTest::rendersOnlyWhatIsWanted()
     client.countFor(MessageType::Preview, 300);
     QCOMPARE(client.countFor(MessageType::Preview, 500), 0);
     QVERIFY(service.terminate());
+}
+
+void EffectRendererTest::sinksDriveRendering()
+{
+    // In process: a sink alone makes the service render, and nothing reaches it once removed.
+    QTemporaryDir dir;
+    ServiceOptions options;
+    options.modules = 2;
+    ControlService service(options, dir.filePath(QStringLiteral("state.json")),
+                           dir.filePath(QStringLiteral("control.sock")));
+    QString error;
+    QVERIFY2(service.start(&error), qPrintable(error));
+    RawClient client;
+    QVERIFY(client.connectTo(dir.filePath(QStringLiteral("control.sock"))));
+    client.send(lightingRequest(0, 6));
+    client.send(lightingRequest(1, 0));
+    QTRY_VERIFY(service.state().module(0).lightMode == 6 &&
+                service.state().module(1).lightMode == 0);
+
+    int frames = 0;
+    PreviewMessage last;
+    const int id = service.addFrameSink([&](const PreviewMessage& message) {
+        ++frames;
+        last = message;
+    });
+    QCOMPARE(frames, 1); // the current picture at once
+    QCOMPARE(last.colors[0][0], service.state().module(0).rgb[0]);
+    QCOMPARE(last.colors[2][0], COLORREF(0)); // no third module
+    QTRY_VERIFY(frames >= 10);
+    service.removeFrameSink(id);
+    const int removed = frames;
+    QTest::qWait(300);
+    QCOMPARE(frames, removed);
+    service.stop();
 }
 
 void EffectRendererTest::listensOnlyDuringParty()

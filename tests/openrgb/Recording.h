@@ -44,14 +44,14 @@ private:
     QByteArray bytes_;
 };
 
-// A typical SMBus DRAM controller: Direct, Static with one colour, one linear zone.
+// A typical SMBus DRAM controller: Direct, Static with one colour, one linear zone; as sent at
+// protocol 3 to 5.
 inline std::vector<uint8_t> recordedDram(unsigned version, const char* location, int leds)
 {
     Recording r;
     r.u32(1); // DRAM
     r.str("ENE DRAM");
-    if (version >= 1)
-        r.str("ENE");
+    r.str("ENE");
     r.str("ENE SMBus Device");
     r.str("DIMM_LED-0103");
     r.str("");
@@ -59,33 +59,15 @@ inline std::vector<uint8_t> recordedDram(unsigned version, const char* location,
     r.u16(2); // modes
     r.u32(1); // active: Static
     r.str("Direct");
-    for (quint32 v : {0xFFFFu, 0x20u, 0u, 0u})
-        r.u32(v); // value, flags, speed min, max
-    if (version >= 3) {
-        r.u32(0);
-        r.u32(0);
-    }
-    r.u32(0); // colours min, max, speed
-    r.u32(0);
-    r.u32(0);
-    if (version >= 3)
-        r.u32(0);
-    r.u32(0); // direction
+    // value, flags, speed min and max, brightness min and max, colours min and max, speed,
+    // brightness, direction
+    for (quint32 v : {0xFFFFu, 0x20u, 0u, 0u, 0u, 0u, 0u, 0u, 0u, 0u, 0u})
+        r.u32(v);
     r.u32(1); // per LED
     r.u16(0);
     r.str("Static");
-    for (quint32 v : {1u, 0x40u, 0u, 0u})
+    for (quint32 v : {1u, 0x40u, 0u, 0u, 0u, 255u, 1u, 1u, 0u, 200u, 0u})
         r.u32(v);
-    if (version >= 3) {
-        r.u32(0);
-        r.u32(255);
-    }
-    r.u32(1);
-    r.u32(1);
-    r.u32(0);
-    if (version >= 3)
-        r.u32(200);
-    r.u32(0);
     r.u32(2); // mode specific
     r.u16(1);
     r.u32(0x0000FF);
@@ -115,13 +97,12 @@ inline std::vector<uint8_t> recordedDram(unsigned version, const char* location,
     return r.sized();
 }
 
-inline orgb::Controller expectedDram(unsigned version, const char* location, int leds)
+inline orgb::Controller expectedDram(const char* location, int leds)
 {
     orgb::Controller c;
     c.type = orgb::DeviceDram;
     c.name = "ENE DRAM";
-    if (version >= 1)
-        c.vendor = "ENE";
+    c.vendor = "ENE";
     c.description = "ENE SMBus Device";
     c.version = "DIMM_LED-0103";
     c.location = location;
@@ -135,8 +116,8 @@ inline orgb::Controller expectedDram(unsigned version, const char* location, int
     fixed.name = "Static";
     fixed.value = 1;
     fixed.flags = 0x40;
-    fixed.brightnessMax = version >= 3 ? 255 : 0;
-    fixed.brightness = version >= 3 ? 200 : 0;
+    fixed.brightnessMax = 255;
+    fixed.brightness = 200;
     fixed.colorsMin = fixed.colorsMax = 1;
     fixed.colorMode = 2;
     fixed.colors = {0x0000FF};

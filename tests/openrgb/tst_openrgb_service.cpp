@@ -1,14 +1,11 @@
-// The service's SDK server, run for real: our own output drives it, hostile packets are shut
-// out, a second service drives the first through --output=openrgb, and the openrgb-sdk npm
-// client talks to it.
+// The service's SDK server, run for real: hostile packets are shut out, a second service drives
+// the first through --output=openrgb, and the openrgb-sdk npm client talks to it.
 
 #include "ControllerData.h"
 #include "Messages.h"
-#include "OpenRgbOutput.h"
 #include "RawClient.h"
-#include "SdkProbe.h"
+#include "SdkPeers.h"
 #include "SdkServer.h"
-#include "ServiceOptions.h"
 #include "ServiceProcess.h"
 #include "TestEnvironment.h"
 
@@ -71,193 +68,71 @@ class TestOpenRgbService : public QObject
     Q_OBJECT
 
 private slots:
-    void commandLine_data();
-    void commandLine();
-    void outputDrivesOurServer();
-    void hostilePacketsCloseOnlyTheirConnection_data();
     void hostilePacketsCloseOnlyTheirConnection();
     void serviceDrivesService();
     void serverTellsOfDeviceListChanges();
     void npmClient();
 };
 
-void TestOpenRgbService::commandLine_data()
+void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("output"); // empty when refused
-    QTest::addColumn<QString>("sdkServer");
-    QTest::newRow("neither") << QStringList() << "unset"
-                             << "";
-    QTest::newRow("output default") << QStringList{"--output=openrgb"} << "openrgb:127.0.0.1:6742"
-                                    << "";
-    QTest::newRow("output elsewhere")
-        << QStringList{"--output", "openrgb:pc:7000"} << "openrgb:pc:7000"
-        << "";
-    QTest::newRow("output off") << QStringList{"--output=none"} << "none"
-                                << "";
-    QTest::newRow("bad output") << QStringList{"--output=wled"} << ""
-                                << "";
-    QTest::newRow("bad output port") << QStringList{"--output=openrgb:h:99999"} << ""
-                                     << "";
-    QTest::newRow("server default") << QStringList{"--sdk-server"} << "unset"
-                                    << "127.0.0.1:6743";
-    QTest::newRow("server named") << QStringList{"--sdk-server=0.0.0.0:7000"} << "unset"
-                                  << "0.0.0.0:7000";
-    QTest::newRow("server port only") << QStringList{"--sdk-server=:7001"} << "unset"
-                                      << "127.0.0.1:7001";
-    QTest::newRow("bad server") << QStringList{"--sdk-server=1.2.3.4:x"} << ""
-                                << "";
-}
-
-void TestOpenRgbService::commandLine()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, output);
-    QFETCH(QString, sdkServer);
-    ServiceOptions options;
-    QString message;
-    bool exitNow = false;
-    const bool ok = options.parse(QStringList{QStringLiteral("norvalex-control")} + arguments,
-                                  &message, &exitNow);
-    QCOMPARE(ok, !output.isEmpty());
-    if (!ok) {
-        QVERIFY(message.startsWith(QStringLiteral("--")));
-        return;
-    }
-    QCOMPARE(options.output ? QString::fromStdString(*options.output) : QStringLiteral("unset"),
-             output);
-    QCOMPARE(options.sdkServerHost.isEmpty() ? QString()
-                                             : options.sdkServerHost + QLatin1Char(':') +
-                                                   QString::number(options.sdkServerPort),
-             sdkServer);
-    // The option overrides the stored output for the run.
-    SimulationConfig stored;
-    stored.output = "openrgb:stored:1";
-    QCOMPARE(QString::fromStdString(options.apply(stored).output),
-             options.output ? output : QStringLiteral("openrgb:stored:1"));
-}
-
-void TestOpenRgbService::outputDrivesOurServer()
-{
-    const quint16 port = freePort();
-    ServiceProcess service(dir("a/run"), dir("a/config"));
-    QVERIFY(service.start(
-        {sdkArgument(port), QStringLiteral("--modules=4"), QStringLiteral("--leds=8")}));
-
-    // A connected SDK client is enough for the service to render: the modules show their
-    // lighting, not Direct mode.
-    SdkProbe probe;
-    QVERIFY(probe.connectTo(port));
-    orgb::Controller seen;
-    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 1, &seen) && anyLit(seen.colors), 10000);
-    QVERIFY(seen.activeMode != 0);
-
-    OpenRgbOutput output(QStringLiteral("127.0.0.1"), port);
-    output.start();
-    QTRY_VERIFY_WITH_TIMEOUT(output.connected(), 10000);
-    QCOMPARE(output.protocolVersion(), orgb::kProtocolVersion);
-    QCOMPARE(output.modules().size(), std::size_t(4));
-    for (int i = 0; i < 4; ++i) {
-        QCOMPARE(output.modules()[std::size_t(i)].location, "Slot " + std::to_string(i + 1));
-        QCOMPARE(output.modules()[std::size_t(i)].leds, 8);
-        QCOMPARE(output.modules()[std::size_t(i)].directMode, 0);
-    }
-
-    // The frames we send are what the service's modules then show.
-    FrameOutput::Colors frame = {};
-    for (int slot = 0; slot < 4; ++slot)
-        for (int led = 0; led < 8; ++led)
-            frame[slot][led] = COLORREF(0x010203 * (slot * 8 + led + 1));
-    output.showFrame(frame);
-    QTRY_VERIFY(controllerData(probe, 3, &seen) &&
-                seen.colors == std::vector<orgb::Color>(frame[3], frame[3] + 8));
-    QCOMPARE(seen.activeMode, 0);
-    QCOMPARE(seen.type, int32_t(orgb::DeviceDram));
-    QCOMPARE(seen.modes[0].name, std::string("Direct"));
-    QCOMPARE(seen.modes[6].name, std::string("Wave"));
-
-    // The panel's preview shows them too.
-    RawClient panel;
-    QVERIFY(panel.connectTo(service.socketPath()));
-    nxproto::Request preview;
-    preview.type = nxproto::MessageType::SetPreview;
-    preview.preview = true;
-    panel.send(preview);
-    nxproto::PreviewMessage shown;
-    QVERIFY(nextMatching(
-        panel, nxproto::MessageType::Preview,
-        [&](const nxproto::Frame& message) {
-            return nxproto::decodePreview(message, shown, nullptr) &&
-                   std::equal(frame[2], frame[2] + 8, shown.colors[2]);
-        },
-        10000));
-
-    // Until the user changes that module on the panel: its own lighting comes back.
-    panel.send(lightingRequest(2, 6));
-    QVERIFY(nextMatching(
-        panel, nxproto::MessageType::Preview,
-        [&](const nxproto::Frame& message) {
-            return nxproto::decodePreview(message, shown, nullptr) &&
-                   !std::equal(frame[2], frame[2] + 8, shown.colors[2]) &&
-                   std::equal(frame[3], frame[3] + 8, shown.colors[3]);
-        },
-        10000));
-}
-
-void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection_data()
-{
-    QTest::addColumn<QByteArray>("packet");
     std::vector<uint8_t> leds = orgb::encodeLedUpdate({1, 2});
     leds[0] = 99; // data_size disagrees
     std::vector<uint8_t> huge = orgb::encodePacket(0, orgb::UpdateLeds);
     huge[14] = 0x20; // 2 MiB body announced
     QByteArray magic = bytes(orgb::encodePacket(0, orgb::RequestControllerCount));
     magic[0] = 'X';
-    QTest::newRow("wrong magic") << magic;
-    QTest::newRow("inner size disagrees") << bytes(orgb::encodePacket(0, orgb::UpdateLeds, leds));
-    QTest::newRow("body past 1 MiB") << bytes(huge);
-    QTest::newRow("unknown id") << bytes(orgb::encodePacket(0, 4242));
-    QTest::newRow("device out of range")
-        << bytes(orgb::encodePacket(2, orgb::UpdateLeds, orgb::encodeLedUpdate({1})));
-    QTest::newRow("LED out of range")
-        << bytes(orgb::encodePacket(0, orgb::UpdateSingleLed, orgb::encodeSingleLedUpdate(5, 1)));
-    QTest::newRow("zone out of range")
-        << bytes(orgb::encodePacket(0, orgb::UpdateZoneLeds, orgb::encodeZoneLedUpdate(1, {1})));
-    QTest::newRow("mode out of range") << bytes(
-        orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)));
-    QTest::newRow("data request of 2 bytes")
-        << bytes(orgb::encodePacket(0, orgb::RequestControllerData, {1, 0}));
-}
+    const std::pair<const char*, QByteArray> packets[] = {
+        {"wrong magic", magic},
+        {"inner size disagrees", bytes(orgb::encodePacket(0, orgb::UpdateLeds, leds))},
+        {"body past 1 MiB", bytes(huge)},
+        {"unknown id", bytes(orgb::encodePacket(0, 4242))},
+        {"device out of range",
+         bytes(orgb::encodePacket(2, orgb::UpdateLeds, orgb::encodeLedUpdate({1})))},
+        {"LED out of range",
+         bytes(orgb::encodePacket(0, orgb::UpdateSingleLed, orgb::encodeSingleLedUpdate(5, 1)))},
+        {"zone out of range",
+         bytes(orgb::encodePacket(0, orgb::UpdateZoneLeds, orgb::encodeZoneLedUpdate(1, {1})))},
+        {"mode out of range",
+         bytes(
+             orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)))},
+        {"data request of 2 bytes",
+         bytes(orgb::encodePacket(0, orgb::RequestControllerData, {1, 0}))}};
 
-void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection()
-{
-    QFETCH(QByteArray, packet);
     const quint16 port = freePort();
     ServiceProcess service(dir("h/run"), dir("h/config"));
     QVERIFY(service.start(
         {sdkArgument(port), QStringLiteral("--modules=2"), QStringLiteral("--leds=5")}));
     SdkProbe bystander;
     QVERIFY(bystander.connectTo(port));
-    SdkProbe attacker;
-    QVERIFY(attacker.connectTo(port));
-    attacker.sendBytes(packet);
-    QVERIFY(attacker.waitForClose());
-    QVERIFY(service.isRunning());
-    bystander.send(0, orgb::RequestControllerCount);
-    orgb::Packet answer;
-    QVERIFY(bystander.waitFor(orgb::RequestControllerCount, &answer));
-    QCOMPARE(answer.body, orgb::encodeU32(2));
+    for (const auto& packet : packets) {
+        SdkProbe attacker;
+        QVERIFY2(attacker.connectTo(port), packet.first);
+        attacker.sendBytes(packet.second);
+        QVERIFY2(attacker.waitForClose(), packet.first);
+        bystander.send(0, orgb::RequestControllerCount);
+        orgb::Packet answer;
+        QVERIFY2(bystander.waitFor(orgb::RequestControllerCount, &answer), packet.first);
+        QCOMPARE(answer.body, orgb::encodeU32(2));
+    }
     QVERIFY(service.terminate());
 }
 
 void TestOpenRgbService::serviceDrivesService()
 {
-    // Service A plays the OpenRGB server with two modules; service B drives them, told so by
-    // the "output" key of its state file.
+    // Service A plays the OpenRGB server with two modules. A connected SDK client is enough for
+    // it to render: the modules show their lighting, not Direct mode.
     const quint16 port = freePort();
     ServiceProcess a(dir("sa/run"), dir("sa/config"));
     QVERIFY(
         a.start({sdkArgument(port), QStringLiteral("--modules=2"), QStringLiteral("--leds=5")}));
+    SdkProbe probe;
+    QVERIFY(probe.connectTo(port));
+    orgb::Controller seen;
+    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 1, &seen) && anyLit(seen.colors), 10000);
+    QVERIFY(seen.activeMode != 0);
+
+    // Service B drives A's modules, told so by the "output" key of its state file.
     ServiceProcess b(dir("sb/run"), dir("sb/config"));
     QVERIFY(b.start({QStringLiteral("--modules=0")}));
     QVERIFY(b.terminate());
@@ -276,11 +151,11 @@ void TestOpenRgbService::serviceDrivesService()
     QVERIFY(b.start({sdkArgument(portB)}));
 
     // B reports A's modules to its panel.
-    RawClient panel;
-    QVERIFY(panel.connectTo(b.socketPath()));
+    RawClient panelB;
+    QVERIFY(panelB.connectTo(b.socketPath()));
     nxproto::HardwareInfo info;
     QVERIFY(nextMatching(
-        panel, nxproto::MessageType::Hardware,
+        panelB, nxproto::MessageType::Hardware,
         [&](const nxproto::Frame& frame) {
             return nxproto::decodeHardware(frame, info, nullptr) && info.memoryCount == 2;
         },
@@ -290,14 +165,14 @@ void TestOpenRgbService::serviceDrivesService()
     QCOMPARE(info.modules[0].modelCode, std::string("KX44"));
     QCOMPARE(info.modules[0].type, std::string("NORVALEX DRAM KX44"));
 
-    // B renders its lighting onto A: A's slot 0 goes into Direct mode.
-    SdkProbe probe;
-    QVERIFY(probe.connectTo(port));
-    orgb::Controller seen;
+    // B renders its lighting onto A: A's slot 0 goes into Direct mode and shows B's picture
+    // (B's panel wants no preview: B renders for its output alone), not the black that B's
+    // output starts from.
     QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && seen.activeMode == 0, 10000);
-    // B renders for its output alone (its panel wants no preview): A's module shows B's
-    // picture, not the black that B's output starts from.
     QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && anyLit(seen.colors), 10000);
+    QCOMPARE(seen.type, int32_t(orgb::DeviceDram));
+    QCOMPARE(seen.modes[0].name, std::string("Direct"));
+    QCOMPARE(seen.modes[6].name, std::string("Wave"));
 
     // A tool driving B's second module directly reaches A's LEDs through B's output.
     SdkProbe tool;
@@ -306,17 +181,40 @@ void TestOpenRgbService::serviceDrivesService()
     tool.send(1, orgb::UpdateLeds, orgb::encodeLedUpdate(colors));
     QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 1, &seen) && seen.colors == colors, 10000);
 
+    // A's panel preview shows them too, until the user changes that module on A's panel: its
+    // own lighting comes back.
+    RawClient panelA;
+    QVERIFY(panelA.connectTo(a.socketPath()));
+    nxproto::Request preview;
+    preview.type = nxproto::MessageType::SetPreview;
+    preview.preview = true;
+    panelA.send(preview);
+    nxproto::PreviewMessage shown;
+    const auto showsColors = [&](const nxproto::Frame& message) {
+        return nxproto::decodePreview(message, shown, nullptr) &&
+               std::equal(colors.begin(), colors.end(), shown.colors[1]);
+    };
+    QVERIFY(nextMatching(panelA, nxproto::MessageType::Preview, showsColors, 10000));
+    panelA.send(lightingRequest(1, 6));
+    QVERIFY(nextMatching(
+        panelA, nxproto::MessageType::Preview,
+        [&](const nxproto::Frame& message) {
+            return !showsColors(message) &&
+                   anyLit(std::vector<orgb::Color>(shown.colors[1], shown.colors[1] + 5));
+        },
+        10000));
+
     // A's server going away leaves B running, still reporting the modules, but with a time
     // stamp that no longer advances, so the panel sees the data go stale.
     QVERIFY(a.terminate());
     nxproto::HardwareInfo later;
     QVERIFY(nextMatching(
-        panel, nxproto::MessageType::Hardware,
+        panelB, nxproto::MessageType::Hardware,
         [&](const nxproto::Frame& frame) { return nxproto::decodeHardware(frame, info, nullptr); },
         5000));
     QTest::qWait(2200);
     nxproto::Frame frame;
-    QVERIFY(panel.waitFor(nxproto::MessageType::Hardware, &frame, 3000));
+    QVERIFY(panelB.waitFor(nxproto::MessageType::Hardware, &frame, 3000));
     QVERIFY(nxproto::decodeHardware(frame, later, nullptr));
     QCOMPARE(later.memoryCount, 2);
     QVERIFY(later.updateTime <= info.updateTime);

@@ -28,27 +28,24 @@ inline void put32(QByteArray& b, int offset, uint32_t v)
 }
 
 // One structure: header, formatted area of `length` bytes, the strings, the double NUL.
-inline QByteArray structure(uint8_t type, int length, uint16_t handle, const QByteArray& body,
+inline QByteArray structure(uint8_t type, int length, uint16_t handle,
                             const QStringList& strings = {})
 {
     QByteArray s(length, '\0');
     s[0] = char(type);
     s[1] = char(length);
     put16(s, 2, handle);
-    for (int i = 0; i < body.size() && 4 + i < length; ++i)
-        s[4 + i] = body[i];
     for (const QString& text : strings)
         s += text.toLatin1() + '\0';
     if (strings.isEmpty())
         s += '\0';
-    s += '\0';
-    return s;
+    return s + '\0';
 }
 
 // Type 16, system memory, with `count` devices.
 inline QByteArray memoryArray(int count)
 {
-    QByteArray s = structure(16, 0x17, 0x1000, {});
+    QByteArray s = structure(16, 0x17, 0x1000);
     s[0x07] = 0x03; // use: system memory
     put16(s, 0x0D, uint16_t(count));
     return s;
@@ -69,18 +66,18 @@ struct Device {
 // Type 17 of SMBIOS 3.3 (0x5C bytes).
 inline QByteArray memoryDevice(const Device& d, uint16_t handle)
 {
-    QByteArray s = structure(17, 0x5C, handle, {});
+    QStringList strings;
+    QByteArray s(0x5C, '\0');
+    auto addString = [&](int offset, const QString& text) {
+        if (!text.isEmpty()) {
+            strings << text;
+            s[offset] = char(strings.size());
+        }
+    };
     put16(s, 0x04, 0x1000);
     put16(s, 0x0C, d.size);
     put32(s, 0x1C, d.extendedSize);
     s[0x0E] = 0x09; // DIMM
-    QStringList strings;
-    auto addString = [&](int offset, const QString& text) {
-        if (text.isEmpty())
-            return;
-        strings << text;
-        s[offset] = char(strings.size());
-    };
     addString(0x10, d.locator);
     addString(0x11, d.bank);
     s[0x12] = char(d.type);
@@ -88,19 +85,12 @@ inline QByteArray memoryDevice(const Device& d, uint16_t handle)
     addString(0x1A, d.part);
     put16(s, 0x20, d.configured);
     put32(s, 0x58, d.extendedConfigured);
-    const QByteArray area = s.left(0x5C);
-    QByteArray out = area;
-    for (const QString& text : strings)
-        out += text.toLatin1() + '\0';
-    if (strings.isEmpty())
-        out += '\0';
-    out += '\0';
-    return out;
+    return structure(17, 0x5C, handle, strings).replace(4, 0x5C - 4, s.mid(4));
 }
 
 inline QByteArray endOfTable()
 {
-    return structure(127, 4, 0xFFFE, {});
+    return structure(127, 4, 0xFFFE);
 }
 
 // DDR4 SPD (512 bytes): times in ps split into 125 ps units and a signed fine correction.

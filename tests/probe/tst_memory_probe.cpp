@@ -1,10 +1,14 @@
-// Sensors, channel mode and the whole probe against a fake root.
+// The probe against a fake root built from the public layouts: meminfo, SMBIOS, the DMI cache,
+// SPD timings, sensors, channel mode and the whole machine.
 
 #include "ChannelMode.h"
 #include "DmiCache.h"
 #include "FixtureRoot.h"
 #include "Hwmon.h"
+#include "MemInfo.h"
 #include "MemoryProbe.h"
+#include "SmbiosMemory.h"
+#include "SpdDecoder.h"
 
 #include <QProcess>
 #include <QtTest>
@@ -16,14 +20,246 @@ class TestMemoryProbe : public QObject
     Q_OBJECT
 
 private slots:
+    void meminfo_data();
+    void meminfo();
+    void smbiosDevices();
+    void smbiosDamagedTables();
+    void dmiCache();
+    void spdTimings_data();
+    void spdTimings();
+    void spdRejects();
     void moduleSensors();
     void cpuTemperature();
     void channelMode_data();
     void channelMode();
     void wholeMachine();
     void withoutSources();
-    void cacheTool();
 };
+
+void TestMemoryProbe::meminfo_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<double>("load");
+    QTest::addColumn<int>("usedMB");
+    // 16 GiB with 12 GiB available: 25 %, 4096 MB used.
+    QTest::newRow("typical") << QByteArray("MemTotal: 16777216 kB\nMemFree: 1 kB\n"
+                                           "MemAvailable: 12582912 kB\n")
+                             << 25.0 << 4096;
+    // (1000 - 334) / 1000 = 66.6 % rounds to 67.
+    QTest::newRow("rounded") << QByteArray("MemAvailable: 334 kB\nMemTotal: 1000 kB\n") << 67.0
+                             << 0;
+    QTest::newRow("no MemAvailable")
+        << QByteArray("MemTotal: 1000 kB\nMemFree: 10 kB\n") << -1.0 << -1;
+    QTest::newRow("available above total")
+        << QByteArray("MemTotal: 1000 kB\nMemAvailable: 2000 kB\n") << -1.0 << -1;
+    QTest::newRow("garbage") << QByteArray("MemTotal: lots\nMemAvailable: 1 kB\n") << -1.0 << -1;
+    QTest::newRow("empty") << QByteArray() << -1.0 << -1;
+}
+
+void TestMemoryProbe::meminfo()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(double, load);
+    QFETCH(int, usedMB);
+    const MemInfo info = MemInfo::parse(text);
+    QCOMPARE(info.load, load);
+    QCOMPARE(info.usedMB, usedMB);
+
+    fixture::Root root;
+    root.write(QStringLiteral("proc/meminfo"), text);
+    QCOMPARE(MemInfo::read(root.path()).load, load);
+    fixture::Root missing;
+    QCOMPARE(MemInfo::read(missing.path()).usedMB, -1);
+}
+
+void TestMemoryProbe::smbiosDevices()
+{
+    // {size, extended size, type, rated, configured, extended configured, locator, bank, part}
+    const Device devices[] = {
+        {8192, 0, 0x1A, 3200, 2933, 0, "ChannelA-DIMM0", "BANK 0", "  F4-3200C16-8GVKB  "},
+        {0, 0, 0x1A, 0, 0, 0, "ChannelA-DIMM1", {}, {}},                // empty
+        {0x7FFF, 49152, 0x22, 0xFFFF, 0xFFFF, 8000, "DIMM_B1", {}, {}}, // 48 GiB, 8000 MT/s
+        {0x8000 | 0x4000, 0, 0x23, 6400, 0, 0, {}, {}, {}},             // in kB; rated speed only
+        {0xFFFF, 0, 0x02, 0, 0, 0, {}, {}, {}}};                        // all unknown
+    QByteArray table = fixture::memoryArray(4);
+    for (const Device& d : devices)
+        table += fixture::memoryDevice(d, 0x11);
+    const SmbiosMemory memory =
+        SmbiosMemory::decode(table + fixture::endOfTable() + fixture::memoryDevice(devices[0], 1));
+    QCOMPARE(memory.slotCount, 4);
+    QStringList read; // nothing after the end-of-table structure
+    for (const MemoryDevice& m : memory.devices)
+        read << QStringLiteral("%1 %2 %3 %4 %5 %6 %7")
+                    .arg(m.present)
+                    .arg(m.sizeMB)
+                    .arg(m.type, QString::number(m.speedMTs), m.partNumber, m.locator,
+                         m.bankLocator);
+    QCOMPARE(read, (QStringList{"1 8192 DDR4 2933 F4-3200C16-8GVKB ChannelA-DIMM0 BANK 0",
+                                "0 -1  -1  ChannelA-DIMM1 ", "1 49152 DDR5 8000  DIMM_B1 ",
+                                "1 16 LPDDR5 6400   ", "1 -1  -1   "}));
+}
+
+void TestMemoryProbe::smbiosDamagedTables()
+{
+    Device ddr5;
+    ddr5.size = 16384;
+    ddr5.type = 0x22;
+    ddr5.configured = 4800;
+    const QByteArray one = fixture::memoryDevice(ddr5, 0x11);
+
+    // A truncated second structure ends the walk; the first is kept.
+    SmbiosMemory memory = SmbiosMemory::decode(one + one.left(30));
+    QCOMPARE(int(memory.devices.size()), 1);
+    // No type 16: the slots are counted from the devices.
+    QCOMPARE(memory.slotCount, 1);
+    // Strings without their closing double NUL.
+    memory = SmbiosMemory::decode(one + one.left(one.size() - 1));
+    QCOMPARE(int(memory.devices.size()), 1);
+    // A length below the header size.
+    QByteArray bad = one;
+    bad[1] = 2;
+    QVERIFY(SmbiosMemory::decode(bad).devices.empty());
+    QCOMPARE(SmbiosMemory::decode(bad).slotCount, -1);
+    // A short SMBIOS 2.3 structure (0x1B bytes) has no extended size nor configured speed.
+    QByteArray old = fixture::memoryDevice(ddr5, 0x11);
+    old[1] = 0x1B;
+    old.remove(0x1B, 0x5C - 0x1B);
+    memory = SmbiosMemory::decode(old);
+    QCOMPARE(memory.devices.at(0).sizeMB, 16384);
+    QCOMPARE(memory.devices.at(0).speedMTs, -1);
+}
+
+void TestMemoryProbe::spdTimings_data()
+{
+    QTest::addColumn<QByteArray>("image");
+    QTest::addColumn<int>("speed");
+    QTest::addColumn<int>("cl");
+    QTest::addColumn<int>("trcd");
+
+    // CL 10 to 24 supported (bits 3..17 of the low range starting at CL 7).
+    const uint32_t ddr4Cl10to24 = ((1u << 15) - 1) << 3;
+    const QByteArray ddr4_3200 = fixture::ddr4Spd(625, 13750, 13750, ddr4Cl10to24);
+    // 13.75 ns / 0.625 ns = 22 exactly.
+    QTest::newRow("DDR4-3200 at 3200") << ddr4_3200 << 3200 << 22 << 22;
+    // tCK = 2000000 / 2666 = 750 ps; 13750 / 750 = 18.33 -> 19.
+    QTest::newRow("DDR4-3200 at 2666") << ddr4_3200 << 2666 << 19 << 19;
+    // Unknown speed: the rated one (tCKmin 625 ps).
+    QTest::newRow("DDR4 at rated speed") << ddr4_3200 << -1 << 22 << 22;
+    // tAA 14.16 ns (114 x 125 ps - 90 ps) at 833 ps: 16.998 is within the 2.5 % guard -> 17.
+    QTest::newRow("DDR4-2400 guard band")
+        << fixture::ddr4Spd(833, 14160, 14160, ddr4Cl10to24) << 2400 << 17 << 17;
+    // 12.5 ns / 0.833 ns = 15.006: 15, but only CL 16 and up are supported.
+    QTest::newRow("DDR4 next supported CL")
+        << fixture::ddr4Spd(833, 12500, 12500, 0xFFFFu << 9) << 2400 << 16 << 15;
+    // High range: bit 17 stands for CL 23 + 17 = 40.
+    QTest::newRow("DDR4 high CL range")
+        << fixture::ddr4Spd(625, 18750, 18750, 0x80000000u | (1u << 17)) << 3200 << 40 << 30;
+
+    QList<int> even22to50;
+    for (int cl = 22; cl <= 50; cl += 2)
+        even22to50 << cl;
+    const QByteArray ddr5_4800 = fixture::ddr5Spd(416, 16000, 16000, even22to50);
+    // 16 ns / 0.416 ns = 38.46 -> 39 cycles; CAS latencies are even -> 40.
+    QTest::newRow("DDR5-4800 at 4800") << ddr5_4800 << 4800 << 40 << 39;
+    // tCK = 2000000 / 5600 = 357 ps; 16000 x 0.997 / 357 = 44.68 -> 45; CL 46.
+    QTest::newRow("DDR5 at 5600") << ddr5_4800 << 5600 << 46 << 45;
+    // 13.6 ns at 6000 (333 ps): 40.84 x 0.997 = 40.72 -> 41 -> CL 42; tRCD 13.9 ns -> 42.
+    QTest::newRow("DDR5-6000") << fixture::ddr5Spd(333, 13600, 13900, even22to50) << 6000 << 42
+                               << 42;
+    // 16.64 ns at 416 ps = 40.0: within the 0.3 % guard, 40.
+    QTest::newRow("DDR5 guard band")
+        << fixture::ddr5Spd(416, 16640, 16640, even22to50) << 4800 << 40 << 40;
+}
+
+void TestMemoryProbe::spdTimings()
+{
+    QFETCH(QByteArray, image);
+    QFETCH(int, speed);
+    QFETCH(int, cl);
+    QFETCH(int, trcd);
+    const SpdInfo spd = SpdInfo::decode(image);
+    QVERIFY(spd.valid());
+    QCOMPARE(spd.casLatency(speed), cl);
+    QCOMPARE(spd.rasToCas(speed), trcd);
+}
+
+void TestMemoryProbe::spdRejects()
+{
+    const QByteArray ddr4 = fixture::ddr4Spd(625, 13750, 13750, 1u << 15, "  CT8G4DFRA32A  ");
+    QCOMPARE(SpdInfo::decode(ddr4).partNumber, QStringLiteral("CT8G4DFRA32A"));
+    QCOMPARE(SpdInfo::decode(ddr4).generation, SpdInfo::Ddr4);
+    QCOMPARE(SpdInfo::decode(fixture::ddr5Spd(416, 16000, 16000, {40})).generation, SpdInfo::Ddr5);
+
+    // Truncated images, other DRAM types, an undefined time base: nothing decoded.
+    QCOMPARE(SpdInfo::decode(ddr4.left(256)).casLatency(3200), -1);
+    QCOMPARE(SpdInfo::decode(fixture::ddr5Spd(416, 16000, 16000, {40}).left(512)).rasToCas(4800),
+             -1);
+    QByteArray ddr3 = ddr4;
+    ddr3[2] = 0x0B;
+    QVERIFY(!SpdInfo::decode(ddr3).valid());
+    QByteArray otherBase = ddr4;
+    otherBase[17] = 0x05;
+    QVERIFY(!SpdInfo::decode(otherBase).valid());
+    QVERIFY(!SpdInfo::decode(QByteArray()).valid());
+    // A blank EEPROM decodes to a DDR5 header without times: not valid.
+    QByteArray blank(1024, '\0');
+    blank[2] = 0x12;
+    QCOMPARE(SpdInfo::decode(blank).casLatency(4800), -1);
+}
+
+void TestMemoryProbe::dmiCache()
+{
+    const auto run = [](const QStringList& arguments) {
+        QProcess tool;
+        tool.start(QStringLiteral(NX_DMI_CACHE_TOOL), arguments);
+        return tool.waitForFinished(30000) ? tool.exitCode() : -1;
+    };
+    fixture::Root root;
+    Device d;
+    d.size = 16384;
+    d.type = 0x22;
+    d.configured = 5600;
+    d.locator = QStringLiteral("DIMM_A1");
+    d.bank = QStringLiteral("P0 CHANNEL A");
+    d.part = QStringLiteral("PART-1");
+    const QByteArray table = fixture::memoryArray(2) + fixture::memoryDevice(d, 0x11) +
+                             fixture::memoryDevice(Device(), 0x12) + fixture::endOfTable();
+    root.dmiTable(table);
+    // The one-shot tool (run as root) writes a cache every user can read.
+    QCOMPARE(run({QStringLiteral("--root"), root.path()}), 0);
+    const QString cache = DmiCache::cachePath(root.path());
+    QVERIFY(QFileInfo(cache).permissions() & QFileDevice::ReadOther);
+
+    // The table, when readable, is preferred over the cache.
+    SmbiosMemory loaded;
+    QString source;
+    root.dmiTable(fixture::memoryArray(1) + fixture::memoryDevice(Device(), 0x11));
+    QVERIFY(DmiCache::load(root.path(), &loaded, &source));
+    QCOMPARE(source, QStringLiteral("SMBIOS table"));
+    QCOMPARE(int(loaded.devices.size()), 1);
+
+    // A user who cannot read the table (a folder in its place) gets the same from the cache.
+    QFile::remove(DmiCache::tablePath(root.path()));
+    root.mkdir(QStringLiteral("sys/firmware/dmi/tables/DMI"));
+    QVERIFY(DmiCache::load(root.path(), &loaded, &source));
+    QCOMPARE(source, QStringLiteral("SMBIOS cache"));
+    QVERIFY(loaded == SmbiosMemory::decode(table));
+    MemoryProbe probe(root.path());
+    QVERIFY(probe.probe());
+
+    // No table: an error, and the cache is left as it was; wrong arguments: usage.
+    QDir(DmiCache::tablePath(root.path())).removeRecursively();
+    QCOMPARE(run({QStringLiteral("--root"), root.path()}), 1);
+    QVERIFY(QFileInfo::exists(cache));
+    QCOMPARE(run({QStringLiteral("--frobnicate")}), 2);
+
+    // Not ours, or nothing there at all.
+    QVERIFY(!DmiCache::fromJson("{\"format\":2,\"devices\":[]}", &loaded));
+    QVERIFY(!DmiCache::fromJson("[1,2]", &loaded));
+    QVERIFY(!DmiCache::fromJson("{\"format\":1,\"devices\":[3]}", &loaded));
+    fixture::Root empty;
+    QVERIFY(!DmiCache::load(empty.path(), &loaded, &source));
+}
 
 void TestMemoryProbe::moduleSensors()
 {
@@ -226,43 +462,6 @@ void TestMemoryProbe::withoutSources()
     probe.fill(info);
     QCOMPARE(info.casLatency, 22.0);
     QCOMPARE(info.modules[1].modelCode, std::string("FROM-SPD"));
-}
-
-void TestMemoryProbe::cacheTool()
-{
-    const auto run = [](const QStringList& arguments) {
-        QProcess tool;
-        tool.start(QStringLiteral(NX_DMI_CACHE_TOOL), arguments);
-        return tool.waitForFinished(30000) ? tool.exitCode() : -1;
-    };
-    fixture::Root root;
-    Device d;
-    d.size = 16384;
-    d.type = 0x22;
-    d.configured = 5600;
-    d.locator = QStringLiteral("DIMM_A1");
-    d.part = QStringLiteral("PART-1");
-    const QByteArray table = fixture::memoryArray(2) + fixture::memoryDevice(d, 0x11) +
-                             fixture::memoryDevice(Device(), 0x12) + fixture::endOfTable();
-    root.dmiTable(table);
-    QCOMPARE(run({QStringLiteral("--root"), root.path()}), 0);
-    const QString cache = DmiCache::cachePath(root.path());
-    QVERIFY(QFileInfo(cache).permissions() & QFileDevice::ReadOther);
-
-    // A user who cannot read the table gets the same from the cache.
-    QFile::remove(DmiCache::tablePath(root.path()));
-    SmbiosMemory fromCache;
-    QString source;
-    QVERIFY(DmiCache::load(root.path(), &fromCache, &source));
-    QCOMPARE(source, QStringLiteral("SMBIOS cache"));
-    QVERIFY(fromCache == SmbiosMemory::decode(table));
-    MemoryProbe probe(root.path());
-    QVERIFY(probe.probe());
-
-    // No table: an error, and the cache is left as it was; wrong arguments: usage.
-    QCOMPARE(run({QStringLiteral("--root"), root.path()}), 1);
-    QVERIFY(QFileInfo::exists(cache));
-    QCOMPARE(run({QStringLiteral("--frobnicate")}), 2);
 }
 
 QTEST_GUILESS_MAIN(TestMemoryProbe)

@@ -1,5 +1,5 @@
 // The rules' decisions, readings in, events and the load colour out; the autostart entry; the
-// service's module and root options.
+// service's command line.
 
 #include "AutostartEntry.h"
 #include "RuleEngine.h"
@@ -50,7 +50,8 @@ private slots:
     void loadOverride();
     void fanRuleReportedOnce();
     void autostartEntry();
-    void moduleOptions();
+    void serviceOptions_data();
+    void serviceOptions();
 };
 
 void TestRuleEngine::temperatureCrossings()
@@ -200,40 +201,62 @@ void TestRuleEngine::autostartEntry()
     QDir(file).removeRecursively();
 }
 
-void TestRuleEngine::moduleOptions()
+void TestRuleEngine::serviceOptions_data()
 {
-    const auto parse = [](const QStringList& arguments, ServiceOptions* options, QString* message) {
-        bool exitNow = false;
-        return options->parse(QStringList{QStringLiteral("norvalex-control")} + arguments, message,
-                              &exitNow);
-    };
+    // What the options set, as "output|SDK server|modules|root"; empty when refused. The
+    // output's own forms: tst_orgb_protocol::outputChoice.
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("expected");
+    const QString temp = QDir::tempPath();
+    const QString root = QFileInfo(temp).absoluteFilePath();
+    QTest::newRow("none") << QStringList() << "unset||auto|";
+    QTest::newRow("output default")
+        << QStringList{"--output=openrgb"} << "openrgb:127.0.0.1:6742||auto|";
+    QTest::newRow("server default") << QStringList{"--sdk-server"} << "unset|127.0.0.1:6743|auto|";
+    QTest::newRow("server named") << QStringList{"--sdk-server=0.0.0.0:7000"}
+                                  << "unset|0.0.0.0:7000|auto|";
+    QTest::newRow("server port only")
+        << QStringList{"--sdk-server=:7001"} << "unset|127.0.0.1:7001|auto|";
+    QTest::newRow("simulated, root")
+        << QStringList{"--modules=simulated", "--root", temp} << "unset||simulated|" + root;
+    // A count still means that many simulated modules.
+    QTest::newRow("module count") << QStringList{"--modules=6"} << "unset||simulated 6|";
+    for (const char* bad : {"--output=wled", "--sdk-server=1.2.3.4:x", "--modules=real",
+                            "--modules=9", "--root=/nonexistent/nx", "--root="})
+        QTest::newRow(bad) << QStringList{bad} << QString();
+}
+
+void TestRuleEngine::serviceOptions()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, expected);
     ServiceOptions options;
     QString message;
-    QVERIFY(parse({}, &options, &message));
-    QVERIFY(options.moduleMode == ServiceOptions::ModuleMode::Auto);
-    QVERIFY(options.root.isEmpty());
-
-    options = ServiceOptions();
-    QVERIFY(
-        parse({QStringLiteral("--modules=simulated"), QStringLiteral("--root"), QDir::tempPath()},
-              &options, &message));
-    QVERIFY(options.moduleMode == ServiceOptions::ModuleMode::Simulated);
-    QVERIFY(!options.modules);
-    QCOMPARE(options.root, QFileInfo(QDir::tempPath()).absoluteFilePath());
-
-    // A count still means that many simulated modules.
-    options = ServiceOptions();
-    QVERIFY(parse({QStringLiteral("--modules=6")}, &options, &message));
-    QVERIFY(options.moduleMode == ServiceOptions::ModuleMode::Simulated);
-    QCOMPARE(options.modules.value_or(-1), 6);
-
-    for (const QString& bad :
-         {QStringLiteral("--modules=real"), QStringLiteral("--modules=9"),
-          QStringLiteral("--root=/nonexistent/nx"), QStringLiteral("--root=")}) {
-        options = ServiceOptions();
-        QVERIFY2(!parse({bad}, &options, &message), qPrintable(bad));
-        QVERIFY(message.startsWith(bad.section(QLatin1Char('='), 0, 0)));
+    bool exitNow = false;
+    const bool ok = options.parse(QStringList{QStringLiteral("norvalex-control")} + arguments,
+                                  &message, &exitNow);
+    QCOMPARE(ok, !expected.isEmpty());
+    if (!ok) {
+        // The message names the refused option.
+        QVERIFY2(message.startsWith(arguments.first().section(QLatin1Char('='), 0, 0)),
+                 qPrintable(message));
+        return;
     }
+    const bool simulated = options.moduleMode == ServiceOptions::ModuleMode::Simulated;
+    const QString modules = (simulated ? QStringLiteral("simulated") : QStringLiteral("auto")) +
+                            (options.modules ? QStringLiteral(" %1").arg(*options.modules) : "");
+    const QString server =
+        options.sdkServerHost.isEmpty()
+            ? QString()
+            : options.sdkServerHost + QStringLiteral(":%1").arg(options.sdkServerPort);
+    const QString output =
+        options.output ? QString::fromStdString(*options.output) : QStringLiteral("unset");
+    QCOMPARE(QStringList({output, server, modules, options.root}).join(QLatin1Char('|')), expected);
+    // The option overrides the stored output for the run.
+    SimulationConfig stored;
+    stored.output = "openrgb:stored:1";
+    QCOMPARE(QString::fromStdString(options.apply(stored).output),
+             options.output ? output : QStringLiteral("openrgb:stored:1"));
 }
 
 QTEST_GUILESS_MAIN(TestRuleEngine)

@@ -1,9 +1,12 @@
 // The real service carrying the rules out, on a private session bus (run under
-// dbus-run-session) that also stands in for the system bus, with a fake root for its readings.
+// dbus-run-session) that also stands in for the system bus, with a fake root for its readings
+// and a scripted OpenRGB server for the re-apply after a resume.
 
 #include "DesktopStandIns.h"
 #include "FixtureRoot.h"
 #include "RawClient.h"
+#include "Recording.h"
+#include "SdkPeers.h"
 #include "ServiceProcess.h"
 
 #include <QTemporaryDir>
@@ -63,6 +66,13 @@ NotiEventData rulesOff()
     return noti;
 }
 
+// Two DRAM controllers of an OpenRGB server, as recorded.
+std::vector<uint8_t> twoControllers(uint32_t index, uint32_t version)
+{
+    return recordedDram(
+        version, index ? "I2C: /dev/i2c-1, address 0x73" : "I2C: /dev/i2c-1, address 0x71", 5);
+}
+
 // The first hardware report a new client of the service receives.
 bool readHardware(Service& service, nxproto::HardwareInfo& hardware)
 {
@@ -95,6 +105,11 @@ private slots:
 private:
     NotificationServer notifications_;
     LoginManager login_;
+    // One service for the rules: readings from root_, the modules of an OpenRGB server.
+    fixture::Root root_;
+    FakeOrgbServer orgb_{4, 2, twoControllers};
+    std::unique_ptr<Service> service_;
+    RawClient client_;
 };
 
 void TestRulesService::initTestCase()
@@ -109,11 +124,20 @@ void TestRulesService::initTestCase()
     QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/login1"), &login_,
                                QDBusConnection::ExportAllSlots));
     QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.login1")));
+
+    root_.meminfo(1000, 900);
+    root_.hwmon(0, "coretemp", {}, {{"temp1", "60000", "Package id 0"}});
+    service_ = std::make_unique<Service>(
+        QStringList{QStringLiteral("--root"), root_.path(), QStringLiteral("--modules=0"),
+                    QStringLiteral("--output=openrgb:127.0.0.1:%1").arg(orgb_.port())});
+    QVERIFY(service_->connect(client_));
+    nxproto::StateMessage state;
+    QVERIFY(client_.waitForState(&state, 0, 5000));
 }
 
 void TestRulesService::moduleSources()
 {
-    // Two DDR4-3200 modules the probe finds: reported with their part numbers.
+    // Two modules the probe finds: reported with their part numbers.
     fixture::Root machine;
     machine.meminfo(16777216, 12582912);
     fixture::Device d;
@@ -126,16 +150,12 @@ void TestRulesService::moduleSources()
         table += fixture::memoryDevice(d, 0x11);
     }
     machine.dmiTable(table);
-    for (int address : {0x50, 0x51})
-        machine.eeprom("ee1004", 0, address,
-                       fixture::ddr4Spd(625, 13750, 13750, ((1u << 15) - 1) << 3));
     {
         Service service({QStringLiteral("--root"), machine.path()});
         nxproto::HardwareInfo hardware;
         QVERIFY(readHardware(service, hardware));
+        // The probe's findings in detail: tst_memory_probe.
         QCOMPARE(hardware.memoryCount, 2);
-        QCOMPARE(hardware.channel, 2);
-        QCOMPARE(hardware.casLatency, 22.0);
         QCOMPARE(hardware.physicalMemoryUsed, 4096);
         QCOMPARE(hardware.memoryLoad, 25.0);
         QCOMPARE(hardware.modules[1].modelCode, std::string("CT8G4DFRA32A"));
@@ -144,11 +164,11 @@ void TestRulesService::moduleSources()
             10000);
     }
     // The same machine forced to the simulation, and a machine without sources.
+    fixture::Root none;
     for (const QStringList& arguments :
          {QStringList{QStringLiteral("--root"), machine.path(), QStringLiteral("--modules"),
                       QStringLiteral("simulated")},
-          QStringList{QStringLiteral("--root"), QDir::tempPath() + QStringLiteral("/nx-none")}}) {
-        QDir().mkpath(QDir::tempPath() + QStringLiteral("/nx-none"));
+          QStringList{QStringLiteral("--root"), none.path()}}) {
         Service service(arguments);
         nxproto::HardwareInfo hardware;
         QVERIFY(readHardware(service, hardware));
@@ -157,27 +177,19 @@ void TestRulesService::moduleSources()
         QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("modules: simulated")),
                                  10000);
     }
-    QDir(QDir::tempPath() + QStringLiteral("/nx-none")).removeRecursively();
 }
 
 void TestRulesService::temperatureWarningAndShutdown()
 {
-    fixture::Root root;
-    root.meminfo(1000, 900);
-    root.hwmon(0, "coretemp", {}, {{"temp1", "60000", "Package id 0"}});
-    Service service({QStringLiteral("--root"), root.path(), QStringLiteral("--modules"),
-                     QStringLiteral("simulated")});
-    RawClient client;
-    QVERIFY(service.connect(client));
     NotiEventData noti = rulesOff();
     noti.shutdownCPUSwitch = true;
     nxproto::StateMessage state;
-    QVERIFY(client.waitForState(&state, client.send(notification(noti)), 5000));
+    QVERIFY(client_.waitForState(&state, client_.send(notification(noti)), 5000));
 
     notifications_.shown.clear();
     notifications_.closed.clear();
     login_.powerOffs.clear();
-    setCpuTemperature(root, 95000);
+    setCpuTemperature(root_, 95000);
     QTRY_COMPARE_WITH_TIMEOUT(notifications_.shown.size(), 1, 10000);
     const NotificationServer::Shown shown = notifications_.shown.first();
     QCOMPARE(shown.summary, QStringLiteral("CPU temperature 95 °C is above 90 °C"));
@@ -194,36 +206,31 @@ void TestRulesService::temperatureWarningAndShutdown()
     notifications_.invoke(shown.id, QStringLiteral("shutdown"));
     QTRY_COMPARE_WITH_TIMEOUT(login_.powerOffs, QList<bool>{true}, 10000);
 
-    // Falling 2 degrees below withdraws the warning; the next crossing warns again.
-    setCpuTemperature(root, 89000);
-    QTest::qWait(2500);
-    QVERIFY(notifications_.closed.isEmpty());
-    setCpuTemperature(root, 88000);
+    // Falling below the band withdraws the warning (the band itself: tst_rule_engine); the next
+    // crossing warns again.
+    setCpuTemperature(root_, 88000);
     QTRY_COMPARE_WITH_TIMEOUT(notifications_.closed, QList<uint>{shown.id}, 10000);
-    setCpuTemperature(root, 91000);
+    setCpuTemperature(root_, 91000);
     QTRY_COMPARE_WITH_TIMEOUT(notifications_.shown.size(), 2, 10000);
     QTRY_VERIFY_WITH_TIMEOUT(
-        service.log().contains(QStringLiteral("CPU temperature 91 °C is above 90 °C")), 10000);
+        service_->log().contains(QStringLiteral("CPU temperature 91 °C is above 90 °C")), 10000);
 
     // The fan rule is kept and logged, never carried out.
     noti.fanSpeedSwitch = true;
-    QVERIFY(client.waitForState(&state, client.send(notification(noti)), 5000));
+    QVERIFY(client_.waitForState(&state, client_.send(notification(noti)), 5000));
     QCOMPARE(state.state.noti.fanSpeedSwitch, true);
-    QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("needs a fan-control program")),
-                             10000);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        service_->log().contains(QStringLiteral("needs a fan-control program")), 10000);
 }
 
 void TestRulesService::loadRuleColoursEveryLed()
 {
-    fixture::Root root;
-    root.meminfo(1000, 100); // 90 %
-    Service service({QStringLiteral("--root"), root.path(), QStringLiteral("--modules"),
-                     QStringLiteral("2"), QStringLiteral("--leds"), QStringLiteral("5")});
-    RawClient client;
-    QVERIFY(service.connect(client));
+    root_.meminfo(1000, 100); // 90 %
     NotiEventData noti = rulesOff();
     noti.loadingSwitch = true;
+    RawClient client;
     nxproto::StateMessage state;
+    QVERIFY(service_->connect(client) && client.waitForState(&state));
     QVERIFY(client.waitForState(&state, client.send(notification(noti)), 5000));
     nxproto::Request preview;
     preview.type = nxproto::MessageType::SetPreview;
@@ -254,38 +261,47 @@ void TestRulesService::loadRuleColoursEveryLed()
         return m.colors[0][5] == 0 && m.colors[2][0] == 0;
     };
     QVERIFY(waitForFrame(overridden));
+    // The OpenRGB controllers show it too.
+    const std::vector<orgb::Color> override(5, 0x123456);
+    QTRY_VERIFY_WITH_TIMEOUT(orgb_.last(orgb::UpdateLeds, 1) &&
+                                 orgb_.last(orgb::UpdateLeds, 1)->body ==
+                                     orgb::encodeLedUpdate(override),
+                             10000);
     // The load falls: the modules' own lighting returns.
-    root.meminfo(1000, 600);
+    root_.meminfo(1000, 600);
     QVERIFY(waitForFrame([&](const nxproto::PreviewMessage& m) { return !overridden(m); }));
-    QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("memory load rule ended")),
+    QTRY_VERIFY_WITH_TIMEOUT(service_->log().contains(QStringLiteral("memory load rule ended")),
                              10000);
 }
 
 void TestRulesService::resumeAndAutostart()
 {
-    fixture::Root root;
-    Service service({QStringLiteral("--root"), root.path(), QStringLiteral("--modules"),
-                     QStringLiteral("simulated")});
+    // The controllers were put into Direct mode and given every LED when the service started.
+    QTRY_VERIFY_WITH_TIMEOUT(orgb_.count(orgb::UpdateMode) >= 2, 20000);
     RawClient client;
-    QVERIFY(service.connect(client));
     nxproto::StateMessage state;
-    QVERIFY(client.waitForState(&state, 0, 5000));
+    QVERIFY(service_->connect(client) && client.waitForState(&state));
 
-    // Going to sleep changes nothing; waking up sends the whole lighting out again.
-    QTest::qWait(500); // the service subscribes to logind before it listens, but let it settle
+    // Going to sleep changes nothing; waking up sends the whole lighting out again, to the
+    // panel and to the controllers (Direct mode and every LED), on the same connection.
+    orgb_.clearReceived();
     login_.prepareForSleep(true);
+    QTest::qWait(300);
+    QCOMPARE(orgb_.count(orgb::UpdateMode), 0);
     login_.prepareForSleep(false);
     QVERIFY(client.waitForState(&state, 0, 10000));
     QCOMPARE(state.changes, uint32_t(nxproto::ChangeAll));
-    QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("re-applying the lighting")),
+    QTRY_VERIFY_WITH_TIMEOUT(service_->log().contains(QStringLiteral("re-applying the lighting")),
                              10000);
+    QTRY_COMPARE_WITH_TIMEOUT(orgb_.count(orgb::UpdateMode), 2, 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(orgb_.last(orgb::UpdateLeds, 0) && orgb_.last(orgb::UpdateLeds, 1),
+                             10000);
+    QCOMPARE(orgb_.connections(), 1);
 
     // "Start with the system" (on by default) keeps an autostart entry; off removes it.
-    const QString entry = service.configPath() + QStringLiteral("/autostart/norvalex-rgb.desktop");
+    const QString entry =
+        service_->configPath() + QStringLiteral("/autostart/norvalex-rgb.desktop");
     QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(entry), 10000);
-    QFile file(entry);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(file.readAll().contains("norvalex-rgb\" --background\n"));
     nxproto::Request setting;
     setting.type = nxproto::MessageType::SetSetting;
     setting.setting = state.state.setting;
