@@ -181,6 +181,7 @@ const QColor kFieldTop(80, 80, 80);
 const QColor kFieldBottom(0, 0, 0, 150);
 const QColor kOutlineTop(0, 122, 204);
 constexpr qreal kOutlineWidth = 2.0;
+constexpr int kOutlineMargin = 3; // what the outline's pen may cover beyond its polygon
 
 // Style sheets.
 const char* const kCaptionStyle =

@@ -226,7 +226,7 @@ void Lighting_View::slot_SelectMemSlot(int slot)
     selection->rebuildOutline();
     selection->updateRowButtons();
     selectionDeck->showModuleColor(SelectMemoryIndex);
-    update();
+    updateOutline();
 }
 
 void Lighting_View::slot_TurnOn_Switch(bool on)
@@ -382,7 +382,7 @@ void Lighting_View::setMemorySlots(int slotCount, int availableCount)
     slotLayout->setSlotCounts(slotCount, availableCount, ledNumbers);
     selection->rebuildOutline();
     slotLayout->widget_Preview->update();
-    update();
+    updateOutline();
 }
 
 void Lighting_View::setMemorySlotNumber(int count, int* order)
@@ -457,13 +457,32 @@ void Lighting_View::mouseReleaseEvent(QMouseEvent* event)
             slotOrder->drop(pos);
     }
     selection->release(pos);
-    update();
+    updateOutline();
 }
 
 // ----- painting and the event filter ------------------------------------------------------------
 
-void Lighting_View::paintEvent(QPaintEvent* /*event*/)
+QRect Lighting_View::outlineArea() const
 {
+    if (selectAreaPointList.isEmpty())
+        return QRect();
+    return selectAreaPointList.boundingRect().adjusted(-kOutlineMargin, -kOutlineMargin,
+                                                       kOutlineMargin, kOutlineMargin);
+}
+
+void Lighting_View::updateOutline()
+{
+    const QRegion area = QRegion(outlineOnScreen) + outlineArea();
+    if (!area.isEmpty())
+        update(area);
+}
+
+void Lighting_View::paintEvent(QPaintEvent* event)
+{
+    // An earlier outline is gone once all of it has been painted over.
+    if ((QRegion(outlineOnScreen) - event->region()).isEmpty())
+        outlineOnScreen = QRect();
+    outlineOnScreen |= outlineArea();
     if (selectAreaPointList.isEmpty())
         return;
     QPainter painter(this);

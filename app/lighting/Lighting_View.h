@@ -100,6 +100,10 @@ public slots:
     void slot_LineEdit_BValue();
     void receivePaletteValue(COLORREF color);
 
+    // Repaints where the outline of the selected strips was and is now: the only picture the
+    // page draws itself. Its children repaint themselves when they change.
+    void updateOutline();
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -112,6 +116,8 @@ private slots:
 
 private:
     void applyLanguageFonts();
+    // The part of the page the outline of the selected strips covers.
+    QRect outlineArea() const;
 
     // Shared steps.
     bool isEditMode() const;
@@ -156,6 +162,7 @@ private:
     int allselect_end_y = 0;
     bool allselectDragging = false;
     QPolygon selectAreaPointList;
+    QRect outlineOnScreen; // what painted outlines may cover until they are painted over
 
     // The strip picked up in Edit mode.
     std::unique_ptr<SlotOrder> slotOrder;

@@ -49,7 +49,7 @@ void SlotOrder::setOrder(int count, const int* order)
     layout.widget_Preview->setSlotsOrder(placed, order);
     layout.placeMarkers();
     layout.widget_Preview->update();
-    page->update();
+    page->updateOutline();
 }
 
 void SlotOrder::toggleEditMode()
@@ -62,21 +62,21 @@ void SlotOrder::toggleEditMode()
     }
     layout.enterEditMode();
     selection.rebuildOutline();
-    page->update();
+    page->updateOutline();
 }
 
 void SlotOrder::finishEditMode()
 {
     hide();
     layout.finishEditMode();
-    page->update();
+    page->updateOutline();
 }
 
 void SlotOrder::cancelEditMode()
 {
     hide();
     layout.cancelEditMode();
-    page->update();
+    page->updateOutline();
 }
 
 void SlotOrder::applyEditMode()

@@ -99,8 +99,13 @@ void Memory_RGB_View::paintLed(int index, COLORREF color)
     QPushButton* button = btn_Led[index];
     if (!button)
         return;
+    // The same sheet again would only re-polish the button and repaint it unchanged; state
+    // refreshes repaint every LED with the colour it shows.
+    if (ledStyled[index] && ledShown[index] == color)
+        return;
     button->setStyleSheet(ledStyleSheet(color));
     ledShown[index] = color;
+    ledStyled[index] = true;
     nameLed(index);
 }
 

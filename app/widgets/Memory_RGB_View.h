@@ -79,4 +79,5 @@ private:
     bool edited = false;
     QLabel* label_BK = nullptr;
     COLORREF ledShown[LedCount] = {};
+    bool ledStyled[LedCount] = {};
 };

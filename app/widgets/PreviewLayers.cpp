@@ -24,6 +24,12 @@ QPolygon PreviewLayers::ornament(int x)
                      QPoint(x + 11, 150)});
 }
 
+QRegion PreviewLayers::frameBand(const QSize& size)
+{
+    const QRect all(QPoint(0, 0), size);
+    return QRegion(all) - QRegion(all.adjusted(FrameDepth, FrameDepth, -FrameDepth, -FrameDepth));
+}
+
 QPixmap PreviewLayers::blank(const QSize& size, qreal pixelRatio)
 {
     QPixmap pixmap(size * pixelRatio);
@@ -58,17 +64,24 @@ const QPixmap& PreviewLayers::rim(const QSize& size, qreal pixelRatio)
         return m_rim;
     m_rimSize = size;
     m_rimRatio = pixelRatio;
-    m_rim = blank(QSize(RimWidth, size.height()), pixelRatio);
-
-    // The gradient runs straight down, so it is the same for every column.
-    QPainter painter(&m_rim);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient rim(QPointF(size.width() / 2, OrnamentRimTopY),
-                        QPointF(size.width() / 2, size.height()));
-    rim.setColorAt(0.0, OrnamentRimTop);
-    rim.setColorAt(1.0, OrnamentRimBottom);
-    painter.setPen(QPen(QBrush(rim), OrnamentPenWidth, Qt::SolidLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPolygon(ornament(RimLeft), Qt::OddEvenFill);
+    // Stroked in the preview's own coordinates (the gradient's rounding depends on them), then
+    // cut down to the rows it covers. The gradient runs straight down, so it is the same for
+    // every column.
+    QPixmap whole = blank(QSize(RimWidth, size.height()), pixelRatio);
+    {
+        QPainter painter(&whole);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QLinearGradient rim(QPointF(size.width() / 2, OrnamentRimTopY),
+                            QPointF(size.width() / 2, size.height()));
+        rim.setColorAt(0.0, OrnamentRimTop);
+        rim.setColorAt(1.0, OrnamentRimBottom);
+        painter.setPen(QPen(QBrush(rim), OrnamentPenWidth, Qt::SolidLine));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolygon(ornament(RimLeft), Qt::OddEvenFill);
+    }
+    m_rim =
+        whole.copy(QRectF(QPointF(0, RimTop) * pixelRatio, QSizeF(RimWidth, RimHeight) * pixelRatio)
+                       .toAlignedRect());
+    m_rim.setDevicePixelRatio(pixelRatio);
     return m_rim;
 }

@@ -2,6 +2,7 @@
 
 #include <QPixmap>
 #include <QPolygon>
+#include <QRegion>
 
 // The constant parts of the preview's picture, stroked once with their gradient pens and kept
 // as see-through pixmaps: the frame, and the rim of the two-diamond ornament. Blitting them
@@ -9,17 +10,24 @@
 class PreviewLayers
 {
 public:
-    // Columns left of a bar's x that the rim pixmap covers.
+    // Columns left of a bar's x that the rim pixmap covers, and the rows it spans: the
+    // ornament's outline with its 2-pixel pen and a pixel of antialiasing on every side.
     static constexpr int RimLeft = 10;
     static constexpr int RimWidth = 31;
+    static constexpr int RimTop = 97;
+    static constexpr int RimHeight = 57;
+    // Pixels of the frame's stroke reach this far in from every edge of the preview.
+    static constexpr int FrameDepth = 3;
 
     // The ornament's outline for the bar standing at x.
     static QPolygon ornament(int x);
 
     // The frame of a preview of the given size; `empty` is the frame of too many slots.
     const QPixmap& frame(const QSize& size, qreal pixelRatio, bool empty);
+    // The part of a preview of the given size that the frame may cover: a band along its edges.
+    static QRegion frameBand(const QSize& size);
     // The rim of one ornament in a preview of the given size, for the bar at x = RimLeft; it
-    // spans the preview's height.
+    // covers the rows RimTop to RimTop + RimHeight - 1 and is drawn there.
     const QPixmap& rim(const QSize& size, qreal pixelRatio);
 
 private:

@@ -38,9 +38,8 @@ constexpr int OrnamentTop = 100;
 constexpr int OrnamentBottom = 150;
 constexpr qreal OrnamentStopA = 0.3;
 constexpr qreal OrnamentStopB = 0.6;
-// Around a bar: its grey pen and the ornament's rim reach 10 pixels left of x and 20 right.
-constexpr int BarAreaLeft = 10;
-constexpr int BarAreaWidth = 31;
+// Pixels that antialiasing may touch around an outline, counted generously.
+constexpr int OutlineMargin = 2;
 
 QColor toColor(COLORREF color)
 {
@@ -141,9 +140,14 @@ void Widget_Preview::updatePreviewList(QList<COLORREF*> list)
         QMetaObject::invokeMethod(this, &Widget_Preview::updateChangedBars, Qt::QueuedConnection);
 }
 
-QRect Widget_Preview::barArea(int x) const
+QRegion Widget_Preview::barArea(int entry, int x) const
 {
-    return QRect(x - BarAreaLeft, 0, BarAreaWidth, height());
+    QRegion area(QRect(x, BarTop, BarWidth, BarHeight)
+                     .adjusted(-OutlineMargin, -OutlineMargin, OutlineMargin, OutlineMargin));
+    if (entry < moduleNum && ledNum[entry] == 8)
+        area += QRect(x - PreviewLayers::RimLeft, PreviewLayers::RimTop, PreviewLayers::RimWidth,
+                      PreviewLayers::RimHeight);
+    return area;
 }
 
 void Widget_Preview::updateChangedBars()
@@ -153,12 +157,13 @@ void Widget_Preview::updateChangedBars()
         QMutexLocker locker(&colorMutex);
         std::swap(changed, changedEntries);
     }
-    // Only the changed bars go to the screen, and only the page under them is redrawn.
+    // Only the changed bars go to the screen, and only the page under them is redrawn. The
+    // bars of empty slots are grey whatever colours arrive for them.
     QRegion region;
-    const int bars = std::min(slotNum, MaxSlots);
+    const int bars = std::min({slotNum, moduleNum, int(MaxSlots)});
     for (int i = 0; i < bars; ++i) {
         if (changed & (1u << i))
-            region += barArea(barX(slotIndex[i], slotNum));
+            region += barArea(i, barX(slotIndex[i], slotNum));
     }
     if (!region.isEmpty())
         update(region);
@@ -213,14 +218,14 @@ void Widget_Preview::paintEvent(QPaintEvent* event)
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawFrame(painter, event->rect(), slotNum);
+    drawFrame(painter, event->region(), slotNum);
     qCDebug(lcPanel) << "updateSlotNum:" << slotNum << moduleNum;
 
     const int bars = std::min(slotNum, MaxSlots);
     for (int i = 0; i < bars; ++i) {
         const int x = barX(slotIndex[i], slotNum);
         // Bars outside the repainted region would be clipped away entirely.
-        if (!event->region().intersects(barArea(x)))
+        if (!event->region().intersects(barArea(i, x)))
             continue;
         drawBar(painter, i, x, colors[i]);
         if (i < moduleNum && ledNum[i] == 8)
@@ -228,12 +233,17 @@ void Widget_Preview::paintEvent(QPaintEvent* event)
     }
 }
 
-void Widget_Preview::drawFrame(QPainter& painter, const QRect& exposed, int slotCount)
+void Widget_Preview::drawFrame(QPainter& painter, const QRegion& exposed, int slotCount)
 {
+    // Inside its band the frame is fully transparent: a repaint of bars alone skips it.
+    const QRegion touched = exposed & PreviewLayers::frameBand(size());
+    if (touched.isEmpty())
+        return;
     const QPixmap& frame = layers.frame(size(), devicePixelRatioF(), slotCount > MaxSlots);
-    painter.drawPixmap(exposed, frame,
-                       QRectF(exposed.topLeft() * frame.devicePixelRatio(),
-                              exposed.size() * frame.devicePixelRatio()));
+    for (const QRect& part : touched)
+        painter.drawPixmap(part, frame,
+                           QRectF(part.topLeft() * frame.devicePixelRatio(),
+                                  part.size() * frame.devicePixelRatio()));
 }
 
 void Widget_Preview::drawBar(QPainter& painter, int entry, int x, const COLORREF* colors)
@@ -264,5 +274,6 @@ void Widget_Preview::drawOrnament(QPainter& painter, int x, const COLORREF* colo
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
     painter.drawPolygon(PreviewLayers::ornament(x), Qt::OddEvenFill);
-    painter.drawPixmap(x - PreviewLayers::RimLeft, 0, layers.rim(size(), devicePixelRatioF()));
+    painter.drawPixmap(x - PreviewLayers::RimLeft, PreviewLayers::RimTop,
+                       layers.rim(size(), devicePixelRatioF()));
 }

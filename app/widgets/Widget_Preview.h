@@ -47,11 +47,11 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void drawFrame(QPainter& painter, const QRect& exposed, int slotCount);
+    void drawFrame(QPainter& painter, const QRegion& exposed, int slotCount);
     void drawBar(QPainter& painter, int entry, int x, const COLORREF* colors);
     void drawOrnament(QPainter& painter, int x, const COLORREF* colors);
-    // What the bar standing at x and its ornament may touch.
-    QRect barArea(int x) const;
+    // What the bar of the given entry, standing at x, and its ornament may touch.
+    QRegion barArea(int entry, int x) const;
     // Repaints the bars of the entries flagged in changedEntries since the last call.
     void updateChangedBars();
 
