@@ -308,7 +308,11 @@ void ControlService::renderFrame()
     scene.hour = now.hour;
     scene.minute = now.minute;
     scene.second = now.second;
-    const nxproto::HardwareInfo hardware = hardwareInfo();
+    // Read in place unless an output adds its modules.
+    nxproto::HardwareInfo withOutput;
+    if (openRgb_->hasOutput())
+        withOutput = hardwareInfo();
+    const nxproto::HardwareInfo& hardware = openRgb_->hasOutput() ? withOutput : monitor_->info();
     if (EffectRenderer::wantsMusic(state_, hardware)) {
         if (!music_.started())
             qCInfo(lcService) << "Party: listening for the desktop's music";
@@ -343,15 +347,19 @@ void ControlService::renderFrame()
     lastFrame_ = message;
     haveFrame_ = true;
     openRgb_->showFrame(message.colors);
-    std::vector<uint8_t> frame;
-    const auto clients = server_.clients();
-    for (ClientConnection* client : clients) {
+    // A copy of the list: a client that does not read is dropped while it is sent to. Both
+    // buffers keep their storage from frame to frame.
+    recipients_ = server_.clients();
+    bool encoded = false;
+    for (ClientConnection* client : recipients_) {
         if (!client->wantsPreview())
             continue;
-        if (frame.empty())
-            frame = nxproto::encodePreview(message);
-        client->send(frame, true);
+        if (!encoded)
+            nxproto::encodePreview(message, previewBytes_);
+        encoded = true;
+        client->send(previewBytes_, true);
     }
+    recipients_.clear();
     // A sink may remove itself or another while it runs.
     const auto sinks = sinks_;
     for (const auto& entry : sinks)

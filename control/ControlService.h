@@ -126,6 +126,8 @@ private:
     std::map<int, FrameSink> sinks_;
     int nextSinkId_ = 1;
     MusicCapture music_; // open only while a Party mode is rendered
+    std::vector<ClientConnection*> recipients_;
+    std::vector<uint8_t> previewBytes_;
     nxproto::PreviewMessage lastFrame_;
     bool haveFrame_ = false;
     OpenRgbLink* openRgb_;

@@ -2,6 +2,8 @@
 // the picture. The real service on a fake root, whose readings the tests change.
 
 #include "FixtureRoot.h"
+#include "FrameDecoder.h"
+#include "Messages.h"
 #include "RawClient.h"
 #include "ResumeWatch.h"
 #include "ServiceProcess.h"
@@ -97,6 +99,7 @@ private slots:
     void readingsFollowTheClients();
     void rulesKeepWatching();
     void resumeWatchRestartsClean();
+    void previewEncodedInPlace();
 };
 
 void TestServiceWakeups::readingsFollowTheClients()
@@ -194,6 +197,43 @@ void TestServiceWakeups::resumeWatchRestartsClean()
     const qint64 wall = QDateTime::currentMSecsSinceEpoch();
     QVERIFY(!watch.check(wall, 1000));
     QVERIFY(watch.check(wall + 60000, 2000));
+}
+
+void TestServiceWakeups::previewEncodedInPlace()
+{
+    nxproto::PreviewMessage message;
+    message.frame = 0x01020304;
+    for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
+        for (int led = 0; led < nxproto::kLedCount; ++led)
+            message.colors[slot][led] = COLORREF(0xA0B0C0u + uint32_t(slot * 256 + led));
+    }
+    // The buffer of the frames before: longer, and with other bytes in it.
+    std::vector<uint8_t> bytes(2000, 0xEE);
+    for (uint32_t frame : {message.frame, 7u}) {
+        message.frame = frame;
+        nxproto::encodePreview(message, bytes);
+        QCOMPARE(bytes.size(), nxproto::kHeaderSize + 4 + sizeof message.colors);
+        QCOMPARE(bytes, nxproto::encodePreview(message));
+
+        nxproto::FrameDecoder decoder;
+        decoder.feed(bytes.data(), bytes.size());
+        nxproto::Frame decoded;
+        QCOMPARE(decoder.next(decoded), nxproto::FrameDecoder::Status::Frame);
+        QCOMPARE(decoder.next(decoded), nxproto::FrameDecoder::Status::NeedMore);
+        nxproto::PreviewMessage back;
+        std::string error;
+        QVERIFY2(nxproto::decodePreview(decoded, back, &error), error.c_str());
+        QCOMPARE(back.frame, frame);
+        QVERIFY(std::equal(&back.colors[0][0], &back.colors[0][0] + sizeof back.colors / 4,
+                           &message.colors[0][0]));
+    }
+    // Little-endian on the wire, whatever the machine: the length (after its own field), the
+    // version, the type, then the frame number.
+    QCOMPARE(bytes[0], uint8_t((bytes.size() - 4) & 0xFF));
+    QCOMPARE(bytes[1], uint8_t((bytes.size() - 4) >> 8));
+    QCOMPARE(bytes[4], uint8_t(nxproto::kProtocolVersion));
+    QCOMPARE(bytes[8], uint8_t(7));
+    QCOMPARE(bytes[12], uint8_t(0xC0));
 }
 
 QTEST_GUILESS_MAIN(TestServiceWakeups)
