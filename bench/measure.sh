@@ -118,6 +118,20 @@ panel_run() {
   wait_for 10 test ! -e "/proc/$service"
 }
 
+# The same start-up figure for a bare Qt window: what no code of ours can go below.
+bare_run() {
+  local pid start
+  start=$(now_ms)
+  QT_QPA_PLATFORM=xcb "$build/bench/nx_bare_window" >/dev/null 2>&1 &
+  pid=$!
+  pids+=("$pid")
+  wait_for 20 xdotool search --onlyvisible --name '^bare window$'
+  echo "bare_window_shown_ms $(($(now_ms) - start))"
+  echo "bare_window_shown_cpu_ms $(($(cpu_ns "$pid") / 1000000))"
+  kill "$pid"
+  wait "$pid" 2>/dev/null || true
+}
+
 service_run() {
   local home service client
   home=$(fresh_home)
@@ -144,7 +158,10 @@ service_run() {
 results="$work/results"
 for ((run = 1; run <= runs; ++run)); do
   echo "run $run of $runs" >&2
-  if [ "${NX_BENCH_ONLY:-panel}" = panel ]; then panel_run >>"$results"; fi
+  if [ "${NX_BENCH_ONLY:-panel}" = panel ]; then
+    panel_run >>"$results"
+    bare_run >>"$results"
+  fi
   if [ "${NX_BENCH_ONLY:-service}" = service ]; then service_run >>"$results"; fi
 done
 

@@ -191,7 +191,7 @@ QString CommandRunner::refusal(const Command& command, LightingSession& session,
         return QStringLiteral("no module found");
     if (command.verb == Verb::Color && command.led >= 0) {
         for (int slot : targetSlots(command, status)) {
-            const int leds = status.module(slot)->leds;
+            const int leds = status.module(slot)->data.ledNum;
             if (leds >= 0 && command.led >= leds)
                 return QStringLiteral("the module in slot %1 has %2 LEDs").arg(slot + 1).arg(leds);
         }

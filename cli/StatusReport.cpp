@@ -64,29 +64,15 @@ QString speedName(int speed)
 
 StatusReport StatusReport::read(LightingSession& session)
 {
-    const HWData hw = session.GetValueHWData();
     StatusReport report;
+    report.hardware = session.GetValueHWData();
     report.profile = session.GetProfile();
-    report.memoryCount = hw.memoryCount;
-    report.slotCount = hw.slotCount;
-    report.memoryLoad = hw.memoryLoad;
-    report.usedMB = hw.physicalMemoryUsed;
-    report.channel = hw.channel;
-    report.frequency = hw.frequency;
-    report.casLatency = hw.casLatency;
-    report.tRCD = hw.tRCD;
     for (int slot = 0; slot < NX_MODULE_COUNT; ++slot) {
-        if (hw.slotIndex[slot] < 0)
+        if (report.hardware.slotIndex[slot] < 0)
             continue;
-        const MemoryModuleData& data = hw.memoryData[slot];
         Module module;
         module.slot = slot;
-        module.model = fieldText(data.modelCode, NX_TEXT_LEN);
-        module.type = fieldText(data.type, NX_TEXT_LEN);
-        module.sizeMB = data.memoryModuleSize;
-        module.frequency = data.frequency;
-        module.temperature = data.temperature;
-        module.leds = data.ledNum;
+        module.data = report.hardware.memoryData[slot];
         module.lightMode = session.GetValueLightMode(slot);
         module.colorMode = session.GetValueColorMode(slot);
         module.speed = session.GetValueLightSpeed(slot);
@@ -96,6 +82,16 @@ StatusReport StatusReport::read(LightingSession& session)
         report.modules.append(module);
     }
     return report;
+}
+
+QString StatusReport::Module::model() const
+{
+    return fieldText(data.modelCode, NX_TEXT_LEN);
+}
+
+QString StatusReport::Module::type() const
+{
+    return fieldText(data.type, NX_TEXT_LEN);
 }
 
 const StatusReport::Module* StatusReport::module(int slot) const
@@ -110,7 +106,7 @@ const StatusReport::Module* StatusReport::module(int slot) const
 bool StatusReport::hasNewModules() const
 {
     for (const Module& module : modules) {
-        if (module.model.contains(QLatin1String("KX44")))
+        if (module.model().contains(QLatin1String("KX44")))
             return true;
     }
     return false;
@@ -120,13 +116,14 @@ QString StatusReport::text() const
 {
     QString out;
     out += QStringLiteral("Profile %1\n").arg(profile + 1);
-    const QString channelText = channelName(channel);
+    const HWData& hw = hardware;
+    const QString channelText = channelName(hw.channel);
     out += QStringLiteral("Memory: load %1, %2 used, %3 channel, %4, CL %5, tRCD %6\n")
-               .arg(orUnknown(memoryLoad, QStringLiteral(" %")),
-                    orUnknown(usedMB, QStringLiteral(" MB")),
+               .arg(orUnknown(hw.memoryLoad, QStringLiteral(" %")),
+                    orUnknown(hw.physicalMemoryUsed, QStringLiteral(" MB")),
                     channelText.isEmpty() ? kUnknown : channelText,
-                    orUnknown(frequency, QStringLiteral(" MHz")), orUnknown(casLatency, QString()),
-                    orUnknown(tRCD, QString()));
+                    orUnknown(hw.frequency, QStringLiteral(" MHz")),
+                    orUnknown(hw.casLatency, QString()), orUnknown(hw.tRCD, QString()));
     if (modules.isEmpty()) {
         out += QStringLiteral("No module found\n");
         return out;
@@ -146,11 +143,12 @@ QString StatusReport::text() const
     };
     out += row(header);
     for (const Module& m : modules) {
-        out += row({QString::number(m.slot + 1), m.model, m.type,
-                    orUnknown(m.sizeMB, QStringLiteral(" MB")),
-                    orUnknown(m.frequency, QStringLiteral(" MHz")),
-                    orUnknown(m.temperature, QStringLiteral(" °C")),
-                    m.leds < 0 ? kUnknown : QString::number(m.leds), ModeNames::name(m.lightMode),
+        out += row({QString::number(m.slot + 1), m.model(), m.type(),
+                    orUnknown(m.data.memoryModuleSize, QStringLiteral(" MB")),
+                    orUnknown(m.data.frequency, QStringLiteral(" MHz")),
+                    orUnknown(m.data.temperature, QStringLiteral(" °C")),
+                    m.data.ledNum < 0 ? kUnknown : QString::number(m.data.ledNum),
+                    ModeNames::name(m.lightMode),
                     QString::fromLatin1(LightModeTable::colorModeKey(m.colorMode)),
                     speedName(m.speed), m.off ? QStringLiteral("off") : QStringLiteral("on"),
                     QStringLiteral("%1 %").arg(percent(m.brightness))});
@@ -161,27 +159,28 @@ QString StatusReport::text() const
 QByteArray StatusReport::json() const
 {
     QJsonObject memory;
-    memory.insert(QStringLiteral("load"), jsonNumber(memoryLoad));
-    memory.insert(QStringLiteral("usedMB"), jsonNumber(usedMB));
-    const QString channelText = channelName(channel);
+    const HWData& hw = hardware;
+    memory.insert(QStringLiteral("load"), jsonNumber(hw.memoryLoad));
+    memory.insert(QStringLiteral("usedMB"), jsonNumber(hw.physicalMemoryUsed));
+    const QString channelText = channelName(hw.channel);
     memory.insert(QStringLiteral("channel"),
                   channelText.isEmpty() ? QJsonValue() : QJsonValue(channelText));
-    memory.insert(QStringLiteral("frequencyMHz"), jsonNumber(frequency));
-    memory.insert(QStringLiteral("casLatency"), jsonNumber(casLatency));
-    memory.insert(QStringLiteral("tRCD"), jsonNumber(tRCD));
-    memory.insert(QStringLiteral("moduleCount"), jsonNumber(memoryCount));
-    memory.insert(QStringLiteral("slotCount"), slotCount);
+    memory.insert(QStringLiteral("frequencyMHz"), jsonNumber(hw.frequency));
+    memory.insert(QStringLiteral("casLatency"), jsonNumber(hw.casLatency));
+    memory.insert(QStringLiteral("tRCD"), jsonNumber(hw.tRCD));
+    memory.insert(QStringLiteral("moduleCount"), jsonNumber(hw.memoryCount));
+    memory.insert(QStringLiteral("slotCount"), hw.slotCount);
 
     QJsonArray list;
     for (const Module& m : modules) {
         QJsonObject module;
         module.insert(QStringLiteral("slot"), m.slot + 1);
-        module.insert(QStringLiteral("model"), m.model);
-        module.insert(QStringLiteral("type"), m.type);
-        module.insert(QStringLiteral("sizeMB"), jsonNumber(m.sizeMB));
-        module.insert(QStringLiteral("frequencyMHz"), jsonNumber(m.frequency));
-        module.insert(QStringLiteral("temperatureC"), jsonNumber(m.temperature));
-        module.insert(QStringLiteral("leds"), jsonNumber(m.leds));
+        module.insert(QStringLiteral("model"), m.model());
+        module.insert(QStringLiteral("type"), m.type());
+        module.insert(QStringLiteral("sizeMB"), jsonNumber(m.data.memoryModuleSize));
+        module.insert(QStringLiteral("frequencyMHz"), jsonNumber(m.data.frequency));
+        module.insert(QStringLiteral("temperatureC"), jsonNumber(m.data.temperature));
+        module.insert(QStringLiteral("leds"), jsonNumber(m.data.ledNum));
         module.insert(QStringLiteral("lightMode"), m.lightMode);
         module.insert(QStringLiteral("lightModeName"), ModeNames::name(m.lightMode));
         module.insert(QStringLiteral("colorMode"),

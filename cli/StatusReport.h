@@ -11,31 +11,23 @@ class LightingSession;
 // What `norvalexctl status` shows: the memory, the current profile and every present module
 // with its lighting, as aligned text or as JSON. Negative readings are unknown ("N/A", null).
 struct StatusReport {
+    // A present module: its hardware record and its lighting.
     struct Module {
         int slot = 0; // from 0
-        QString model;
-        QString type;
-        int sizeMB = -1;
-        double frequency = -1.0;
-        int temperature = -1;
-        int leds = -1;
+        MemoryModuleData data{};
         int lightMode = 0;
         int colorMode = 0;
         int speed = 0;
         bool off = false;
         float brightness = 0.0f; // 0..1, of single-colour modes
         COLORREF color = 0;      // single colour
+
+        QString model() const;
+        QString type() const;
     };
 
     int profile = 0; // from 0
-    int memoryCount = -1;
-    int slotCount = 0;
-    double memoryLoad = -1.0;
-    int usedMB = -1;
-    int channel = -1;
-    double frequency = -1.0;
-    double casLatency = -1.0;
-    int tRCD = -1;
+    HWData hardware{};
     QVector<Module> modules;
 
     static StatusReport read(LightingSession& session);

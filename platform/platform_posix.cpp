@@ -1,7 +1,7 @@
 // POSIX implementation of Platform. A named mutex is a lock file in the user's runtime
 // directory; a window reachable by title is a local socket there that carries
 // (message, wParam, lParam) and answers once the message is handled; the elevated launch is a
-// plain detached start of the control service from the given directory. Only QtCore and
+// plain start of the control service in its own session from the given directory. Only QtCore and
 // QtNetwork: a message box without a hook is a line on standard error, and the panel installs
 // the hook that shows a real one.
 #include "Platform.h"
@@ -9,17 +9,24 @@
 #include <QByteArray>
 #include <QDataStream>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
-#include <QProcess>
 #include <QStandardPaths>
 
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <map>
 #include <memory>
+#include <thread>
 #include <vector>
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace Platform {
 
@@ -237,11 +244,41 @@ std::wstring controlExecutableName()
 
 bool launchElevated(const std::wstring& file, const std::wstring& directory)
 {
-    const QString dir = QString::fromStdWString(directory);
-    const QString program = dir + QLatin1Char('/') + QString::fromStdWString(file);
-    if (!QFileInfo(program).isExecutable())
+    const QByteArray dir = QFile::encodeName(QString::fromStdWString(directory));
+    const QByteArray program = dir + '/' + QFile::encodeName(QString::fromStdWString(file));
+    if (!QFileInfo(QFile::decodeName(program)).isExecutable())
         return false;
-    return QProcess::startDetached(program, {}, dir);
+
+    // posix_spawn shares the caller's memory until the exec, so the caller waits for the exec
+    // only, not for a copy of its address space as a fork would. The child gets its own session,
+    // the default signal dispositions and an empty signal mask.
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addchdir_np(&actions, dir.constData());
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    sigset_t mask;
+    sigemptyset(&mask);
+    posix_spawnattr_setsigmask(&attributes, &mask);
+    sigfillset(&mask);
+    posix_spawnattr_setsigdefault(&attributes, &mask);
+    posix_spawnattr_setflags(&attributes,
+                             POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+    char* arguments[] = {const_cast<char*>(program.constData()), nullptr};
+    pid_t pid = 0;
+    const int error =
+        posix_spawn(&pid, program.constData(), &actions, &attributes, arguments, environ);
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error != 0)
+        return false;
+    // The service outlives this process or ends first; either way it must not stay a zombie,
+    // whose process id would keep its lock file looking held.
+    std::thread([pid]() {
+        while (waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {
+        }
+    }).detach();
+    return true;
 }
 
 void messageBox(const std::wstring& text, const std::wstring& caption, MessageIcon icon)

@@ -2,6 +2,7 @@
 #include "Accessibility.h"
 #include "AppGlobals.h"
 #include "CommandLine.h"
+#include "FramePictures.h"
 #include "GraphicalSession.h"
 #include "PanelMessageBox.h"
 #include "Platform.h"
@@ -65,6 +66,7 @@ int main(int argc, char* argv[])
     GraphicalSession::beginConnecting();
     QApplication app(argc, argv);
     GraphicalSession::endConnecting();
+    FramePictures::preload();
     // Lets the desktop match the window to its entry (Wayland app id, task bar icon).
     QGuiApplication::setDesktopFileName(QStringLiteral(NX_APP_ID));
     PanelMessageBox::install();

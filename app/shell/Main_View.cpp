@@ -3,6 +3,7 @@
 #include "Accessibility.h"
 #include "AppGlobals.h"
 #include "Clean_View.h"
+#include "FramePictures.h"
 #include "Information_Slots_View.h"
 #include "Information_View.h"
 #include "Lighting_View.h"
@@ -15,10 +16,8 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -40,10 +39,6 @@ const char* const kWindowTitle = "NORVALEX RGB";
 // The title under which the platform layer delivers this window's messages.
 const wchar_t* const kMessageWindowTitle = L"NORVALEX RGB";
 #endif
-const char* const kBackgroundImage = ":/QXRGBMemory/Images/Main_BG.png";
-const char* const kWindowIcon = ":/QXRGBMemory/Images/AppIcon.png";
-// Sizes handed to the window system; X11 refuses a property as large as the 256-pixel picture.
-constexpr int kWindowIconSizes[] = {16, 24, 32, 48, 64, 128};
 
 constexpr int kLogoWidth = 146;
 constexpr int kLogoHeight = 23;
@@ -91,14 +86,6 @@ QString menuButtonStyle(const QString& name)
            QStringLiteral("::checked {font-family: Arial; font-size:18px; border:none; "
                           "color:white;text-align :left;}");
 }
-QIcon windowIconSet()
-{
-    const QPixmap source(QString::fromLatin1(kWindowIcon));
-    QIcon icon;
-    for (int size : kWindowIconSizes)
-        icon.addPixmap(source.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    return icon;
-}
 } // namespace
 
 Main_View::Main_View(QWidget* parent) : QWidget(parent)
@@ -106,17 +93,10 @@ Main_View::Main_View(QWidget* parent) : QWidget(parent)
     Accessibility::install();
     setWindowTitle(QString::fromLatin1(kWindowTitle));
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
-    setWindowIcon(windowIconSet());
+    setWindowIcon(FramePictures::windowIcon());
     resize(kFrameWidth, kFrameHeight);
     setObjectName(QStringLiteral("Main_View"));
     setFocusPolicy(Qt::ClickFocus);
-
-    const QPixmap background = QPixmap(QString::fromLatin1(kBackgroundImage))
-                                   .scaled(size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QPalette framePalette = palette();
-    framePalette.setBrush(QPalette::All, QPalette::Window, QBrush(background));
-    setPalette(framePalette);
-    setAutoFillBackground(true);
 
     label_Logo = new QLabel(this);
     label_Logo->setObjectName(QStringLiteral("label_Logo"));
@@ -132,6 +112,13 @@ Main_View::Main_View(QWidget* parent) : QWidget(parent)
     slot_show_Info();
     createWindowButtons();
     placeMenuBar();
+
+    // Last before the loading view, so that its decode has had the page's construction to run.
+    QPalette framePalette = palette();
+    framePalette.setBrush(QPalette::All, QPalette::Window,
+                          QBrush(FramePictures::background(size())));
+    setPalette(framePalette);
+    setAutoFillBackground(true);
 
     loading_View = new Loading_View(this);
     loading_View->setGeometry(0, 0, width(), height());

@@ -5,6 +5,7 @@
 #include "AccessibleHidden.h"
 #include "AccessibleSwitch.h"
 #include "FocusTracker.h"
+#include "ReturnActivation.h"
 #include "SwitchButton.h"
 
 #include <QAbstractButton>
@@ -48,6 +49,7 @@ void install()
     installed = true;
     QAccessible::installFactory(&createInterface);
     FocusTracker::install();
+    ReturnActivation::install();
 }
 
 void markPageTab(QAbstractButton* button)

@@ -84,7 +84,9 @@ QImage drawMain_BG()
     drawTitleStrip(painter);
     drawMenuColumn(painter);
     drawAccentLine(painter);
-    return image;
+    painter.end();
+    // Opaque: decoded without an alpha channel, and painted without blending.
+    return image.convertToFormat(QImage::Format_RGB32);
 }
 } // namespace
 
