@@ -5,15 +5,14 @@
 // the user would look, in the pixels of a screenshot.
 #include "LightingApi.h"
 #include "PanelLayout.h"
+#include "Pixels.h"
 #include "Platform.h"
+#include "TestEnvironment.h"
 #include "XSession.h"
 
 #include <QtTest>
 
-#include <QLabel>
-
 #include <QDir>
-#include <QTemporaryDir>
 
 #include <csignal>
 #include <functional>
@@ -58,8 +57,6 @@ private:
     QString waitForShot(const std::function<QString(const QImage&)>& fault, const char* name);
     void checkState();
 
-    QTemporaryDir m_root;
-    QString m_runtime;
     QProcess m_panel;
     XSession m_x;
     LightingApi m_api;
@@ -69,24 +66,18 @@ private:
 
 void tst_Journey::initTestCase()
 {
-    QVERIFY(m_root.isValid());
-    QVERIFY2(!qEnvironmentVariableIsEmpty("DISPLAY"), "run under xvfb-run");
-    m_runtime = m_root.path() + "/runtime";
-    for (const char* dir : {"/runtime", "/config", "/data", "/probe-runtime"})
-        QVERIFY(QDir().mkpath(m_root.path() + dir));
-    for (const QString& dir : QStringList{m_runtime, m_root.path() + "/probe-runtime"}) {
-        QFile::setPermissions(dir, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                       QFileDevice::ExeOwner);
-    }
-    qputenv("HOME", m_root.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_root.path() + "/config"));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_root.path() + "/data"));
-
+    QVERIFY2(m_x.start(), "Xvfb did not start");
+    const QString root = TestEnvironment::root().path();
+    qputenv("XDG_DATA_HOME", QFile::encodeName(root + "/data"));
     // The off-screen frame listens for messages under the panel's title: in a runtime
     // directory of its own, so that it never answers for the real panel.
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_root.path() + "/probe-runtime"));
+    const QString probeRuntime = root + "/probe-runtime";
+    QVERIFY(QDir().mkpath(probeRuntime));
+    QFile::setPermissions(probeRuntime,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(probeRuntime));
     m_layout = std::make_unique<PanelLayout>(kModules, kModules, kLeds);
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(TestEnvironment::runtimeDir()));
 
     QString error;
     QVERIFY2(m_api.load(&error), qPrintable(error));
@@ -105,7 +96,7 @@ void tst_Journey::cleanupTestCase()
 
 QString tst_Journey::serviceLock() const
 {
-    return m_runtime + "/norvalex-mutex-NORVALEX_Control.exe.lock";
+    return TestEnvironment::runtimeDir() + "/norvalex-mutex-NORVALEX_Control.exe.lock";
 }
 
 qint64 tst_Journey::servicePid() const
@@ -126,7 +117,7 @@ void tst_Journey::startPanel()
     m_panel.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_panel.start(QStringLiteral(NX_PANEL_EXECUTABLE), QStringList());
     QVERIFY(m_panel.waitForStarted(kStepMs));
-    QVERIFY2(m_x.findWindow(QStringLiteral("NORVALEX RGB"), kStartMs), "no panel window");
+    QVERIFY2(m_x.waitForWindow("NORVALEX RGB", kStartMs), "no panel window");
     // Without a window manager the keyboard follows the X input focus, given once here: a
     // focus change later would end the editing of a field.
     QVERIFY(m_x.focus());
@@ -198,7 +189,7 @@ void tst_Journey::lightsTwoModules()
         QVERIFY(m_x.click(m_layout->at(m_layout->lighting(channel.field))));
         QVERIFY(m_x.clearField());
         QVERIFY(m_x.type(QString::number(channel.value)));
-        QVERIFY(m_x.keys({"Return"}));
+        QVERIFY(m_x.keys(QStringLiteral("Return")));
     }
 
     // The brightness handle dragged from the full end to 6 of 10.
@@ -327,7 +318,7 @@ void tst_Journey::changesThresholdAndLanguage()
     QVERIFY(m_x.click(loading));
     QVERIFY(m_x.clearField());
     QVERIFY(m_x.type(QString::number(chosen)));
-    QVERIFY(m_x.keys({"Return"}));
+    QVERIFY(m_x.keys(QStringLiteral("Return")));
     QTRY_COMPARE_WITH_TIMEOUT(m_api.GetNotiEvent().loadingValue, chosen, kStepMs);
 
     const QPoint german = m_layout->languageEntry(3);

@@ -40,9 +40,6 @@ public:
         sendBytes(bytesOf(nxproto::encodeRequest(hello)));
         return true;
     }
-    // Continues the seqs of an earlier connection of the same identity.
-    void setNextSeq(uint32_t seq) { nextSeq_ = seq; }
-    uint32_t nextSeq() const { return nextSeq_; }
     bool isConnected() const { return socket_.state() == QLocalSocket::ConnectedState; }
     void sendBytes(const QByteArray& bytes)
     {

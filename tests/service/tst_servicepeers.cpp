@@ -39,14 +39,10 @@ int modeOf(const QString& path)
 // Resident memory of a process, in kilobytes.
 long residentKb(qint64 pid)
 {
-    QFile status(QStringLiteral("/proc/%1/status").arg(pid));
-    if (!status.open(QIODevice::ReadOnly))
+    QFile statm(QStringLiteral("/proc/%1/statm").arg(pid));
+    if (!statm.open(QIODevice::ReadOnly))
         return -1;
-    for (const QByteArray& line : status.readAll().split('\n')) {
-        if (line.startsWith("VmRSS:"))
-            return line.mid(6).trimmed().split(' ').value(0).toLong();
-    }
-    return -1;
+    return statm.readAll().split(' ').value(1).toLong() * (::sysconf(_SC_PAGESIZE) / 1024);
 }
 
 } // namespace
@@ -58,6 +54,14 @@ class TestServicePeers : public QObject
     std::unique_ptr<QTemporaryDir> dir_;
 
     QString path(const QString& name) const { return dir_->filePath(name); }
+    // A runtime folder as the session makes it: the user's alone.
+    QString privateRuntimeDir()
+    {
+        const QString dir = path(QStringLiteral("runtime"));
+        if (!QDir().mkpath(dir) || ::chmod(QFile::encodeName(dir).constData(), 0700) != 0)
+            qWarning("cannot make the runtime folder");
+        return dir;
+    }
 
     QProcessEnvironment environment(const QString& runtimeDir) const
     {
@@ -142,8 +146,12 @@ private slots:
         QVERIFY2(service->start(), qPrintable(expected));
         QCOMPARE(modeOf(expected), 0700);
         QCOMPARE(modeOf(service->socketPath()), 0600);
+        // A plain C client: every function resolves, the hardware record arrives, and the
+        // library unloads cleanly.
         const QByteArray output = runLibrary(environment(runtimeDir), 5000);
-        QVERIFY2(output.contains("memoryCount=4\n"), output.constData());
+        for (const char* line :
+             {"resolved=23\n", "memoryCount=4\n", "modelCode0=KX44\n", "unloaded=1\n"})
+            QVERIFY2(output.contains(line), output.constData());
     }
 
     // A fallback folder that someone else made first is not used: the service refuses to
@@ -180,9 +188,7 @@ private slots:
         if (::geteuid() != 0)
             QSKIP("needs to run a peer as another user");
         constexpr uid_t kOther = 4242;
-        const QString runtimeDir = path(QStringLiteral("runtime"));
-        QVERIFY(QDir().mkpath(runtimeDir));
-        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        const QString runtimeDir = privateRuntimeDir();
         const QByteArray socketPath =
             QFile::encodeName(runtimeDir + QLatin1Char('/') + QLatin1String(kSocketFileName));
         sockaddr_un address{};
@@ -245,9 +251,7 @@ private slots:
     // A peer that takes each connection and drops it is retried with growing pauses.
     void droppedConnectionsBackOff()
     {
-        const QString runtimeDir = path(QStringLiteral("runtime"));
-        QVERIFY(QDir().mkpath(runtimeDir));
-        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        const QString runtimeDir = privateRuntimeDir();
         QLocalServer dropper;
         int connections = 0;
         connect(&dropper, &QLocalServer::newConnection, this, [&]() {
@@ -272,9 +276,7 @@ private slots:
     // that never read are dropped before the service grows, and it serves the next one.
     void idleAndNonReadingClients()
     {
-        const QString runtimeDir = path(QStringLiteral("runtime"));
-        QVERIFY(QDir().mkpath(runtimeDir));
-        QVERIFY(::chmod(QFile::encodeName(runtimeDir).constData(), 0700) == 0);
+        const QString runtimeDir = privateRuntimeDir();
         auto service = startService(runtimeDir, runtimeDir);
         QVERIFY(service->start());
 

@@ -1,7 +1,9 @@
-// The service's state through faults, driven as a process through its socket: requests that
-// change nothing, kills in the middle of bursts, and saves that cannot complete.
+// The service's state, driven as a process through its socket: requests that change nothing,
+// kills in the middle of bursts, saves that cannot complete, unusual files at start and frames
+// it must refuse.
 
-#include "ServiceHome.h"
+#include "RawClient.h"
+#include "ServiceProcess.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,6 +14,7 @@
 
 #include <csignal>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <sys/stat.h>
 
@@ -35,31 +38,59 @@ class TestServiceState : public QObject
 {
     Q_OBJECT
 
-    ServiceHome home_;
+    // A service for each test function, in a fresh directory that is its runtime and config
+    // directory.
+    std::unique_ptr<QTemporaryDir> dir_;
+    std::unique_ptr<ServiceProcess> service_;
 
-    QString statePath() const
+    QString filePath(const QString& name) const { return dir_->filePath(name); }
+    QString statePath() const { return filePath(QStringLiteral("norvalex/control-state.json")); }
+    // Replaces the process by a new one for the same directory, not yet started.
+    ServiceProcess& renew()
     {
-        return home_.filePath(QStringLiteral("norvalex/control-state.json"));
+        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
+        return *service_;
+    }
+    // Connects `client` and returns the first state the service sends it.
+    StateMessage connectAndReadState(RawClient& client) const
+    {
+        StateMessage state;
+        if (!client.connectTo(service_->socketPath()) || !client.waitForState(&state))
+            qWarning("no state from the service");
+        return state;
     }
 
 private slots:
-    void init() { QVERIFY(home_.setUp()); }
-    void cleanup() { home_.tearDown(); }
+    void init()
+    {
+        // Writing to a connection the service has just closed must not end the test.
+        std::signal(SIGPIPE, SIG_IGN);
+        dir_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(dir_->isValid() && renew().start());
+    }
+    void cleanup()
+    {
+        service_.reset();
+        dir_.reset();
+    }
 
     // A request that leaves the state as it was is acknowledged to its sender only: no change
-    // mask, no push to the others, no save. A real change still reaches everyone.
+    // mask, no push to the others, no save; a notification record differing only in the item
+    // its sender names is no change either, or a panel re-sending what it is shown would echo
+    // for ever. A real change still reaches everyone.
     void unchangedRequestsAreQuiet()
     {
         RawClient watcher;
         RawClient editor;
-        const StateMessage initial = home_.connectAndReadState(watcher);
-        home_.connectAndReadState(editor);
+        const StateMessage initial = connectAndReadState(watcher);
+        connectAndReadState(editor);
         QTRY_VERIFY(QFileInfo::exists(statePath()));
         const QString savedVersion = fileVersion(statePath());
 
         Request noti;
         noti.type = MessageType::SetNotification;
         noti.noti = initial.state.noti;
+        noti.noti.changedItem = initial.state.noti.changedItem + 3;
         Request colors;
         colors.type = MessageType::SetColors;
         colors.slot = 2;
@@ -100,6 +131,9 @@ private slots:
         QCOMPARE(pushed.changes, uint32_t(ChangeNotification));
         QCOMPARE(pushed.state.noti.loadingValue, noti.noti.loadingValue);
         QTRY_VERIFY(fileVersion(statePath()) != savedVersion);
+        noti.noti.changedItem = 1;
+        QVERIFY(editor.waitForState(&ack, editor.send(noti)));
+        QCOMPARE(ack.changes, 0u);
     }
 
     // An edit lands on the profile it was made for, even after another client switched.
@@ -107,8 +141,8 @@ private slots:
     {
         RawClient editor;
         RawClient switcher;
-        home_.connectAndReadState(editor);
-        home_.connectAndReadState(switcher);
+        connectAndReadState(editor);
+        connectAndReadState(switcher);
         Request profile;
         profile.type = MessageType::SetProfile;
         profile.profile = 2;
@@ -138,7 +172,7 @@ private slots:
         int acknowledged = 0;
         for (int kill = 0; kill < kKills; ++kill) {
             RawClient client;
-            home_.connectAndReadState(client);
+            connectAndReadState(client);
             // seq -> (slot, value): each change gives its slot a new, larger value in LED 0.
             QHash<uint32_t, QPair<int, uint32_t>> made;
             uint32_t ackedValue[kSlotCount] = {};
@@ -170,14 +204,14 @@ private slots:
                     take(state);
             }
             QThread::usleep(random.bounded(3000));
-            home_->kill();
+            service_->kill();
             StateMessage late;
             while (client.waitForState(&late, 0, 200))
                 take(late);
 
-            QVERIFY(home_->start());
+            QVERIFY(service_->start());
             RawClient after;
-            const StateMessage restarted = home_.connectAndReadState(after);
+            const StateMessage restarted = connectAndReadState(after);
             for (int slot = 0; slot < kSlotCount; ++slot) {
                 const uint32_t kept = restarted.state.module(slot).rgb[0];
                 // Not lost, and not invented: an untouched slot keeps its default.
@@ -188,7 +222,7 @@ private slots:
                                         .arg(kept)
                                         .arg(ackedValue[slot])));
             }
-            const QStringList files = QDir(home_.filePath(QStringLiteral("norvalex")))
+            const QStringList files = QDir(filePath(QStringLiteral("norvalex")))
                                           .entryList(QDir::Files | QDir::Hidden | QDir::System);
             QCOMPARE(files, QStringList{QStringLiteral("control-state.json")});
         }
@@ -200,18 +234,19 @@ private slots:
     // each failing episode and one for its end.
     void failedSavesKeepTheGoodFile()
     {
-        home_->kill();
-        const QString control = home_.filePath(QStringLiteral("fault"));
-        home_.renew();
-        home_->setEnvironment(QStringLiteral("LD_PRELOAD"), QStringLiteral(NX_FAULT_SHIM));
-        home_->setEnvironment(QStringLiteral("NX_FAULT_CONTROL"), control);
-        home_->setEnvironment(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.debug=false"));
-        home_->captureErrors();
-        QVERIFY(home_->start());
+        service_->kill();
+        const QString control = filePath(QStringLiteral("fault"));
+        renew();
+        service_->setEnvironment(QStringLiteral("LD_PRELOAD"), QStringLiteral(NX_FAULT_SHIM));
+        service_->setEnvironment(QStringLiteral("NX_FAULT_CONTROL"), control);
+        service_->setEnvironment(QStringLiteral("QT_LOGGING_RULES"),
+                                 QStringLiteral("*.debug=false"));
+        service_->captureErrors();
+        QVERIFY(service_->start());
         RawClient client;
         RawClient other;
-        home_.connectAndReadState(client);
-        home_.connectAndReadState(other);
+        connectAndReadState(client);
+        connectAndReadState(other);
         StateMessage state;
         QVERIFY(client.waitForState(&state, client.send(lightingRequest(0, 1))));
         QVERIFY(other.waitForState(&state));
@@ -243,17 +278,17 @@ private slots:
             QVERIFY(good.contains("\"lightMode\": " + QByteArray::number(mode)));
             ++mode;
         }
-        QVERIFY(home_->terminate());
-        const QString log = home_->readAllErrors();
+        QVERIFY(service_->terminate());
+        const QString log = service_->readAllErrors();
         QCOMPARE(log.count(QStringLiteral("cannot save the state")), 4);
         QCOMPARE(log.count(QStringLiteral("state saved again")), 4);
         QVERIFY2(log.contains(QStringLiteral("No space left on device")), qPrintable(log));
 
         // What the last episode kept is what a restart finds.
-        home_.renew();
-        QVERIFY(home_->start());
+        renew();
+        QVERIFY(service_->start());
         RawClient after;
-        QCOMPARE(home_.connectAndReadState(after).state.module(0).lightMode, mode - 1);
+        QCOMPARE(connectAndReadState(after).state.module(0).lightMode, mode - 1);
     }
 
     // Whatever sits at the state path, the service starts at once with defaults, sets the thing
@@ -261,7 +296,7 @@ private slots:
     // private. A lock file that names no process does not keep it from starting.
     void unusualFilesAtStart()
     {
-        QVERIFY(home_->terminate());
+        QVERIFY(service_->terminate());
         const QString folder = QFileInfo(statePath()).absolutePath();
         const QString lookAlike = statePath() + QStringLiteral(".a1B2c3");
         QFile user(lookAlike);
@@ -277,40 +312,122 @@ private slots:
         for (const auto& make : makers) {
             QVERIFY(QFile::remove(statePath()) || !QFileInfo::exists(statePath()));
             QVERIFY(make());
-            QVERIFY(home_->start());
+            QVERIFY(service_->start());
             RawClient client;
-            QVERIFY(home_.connectAndReadState(client).state == defaultControlState());
-            QVERIFY(home_->terminate());
-            QCOMPARE(home_->exitCode(), 0);
+            QVERIFY(connectAndReadState(client).state == defaultControlState());
+            QVERIFY(service_->terminate());
+            QCOMPARE(service_->exitCode(), 0);
             QVERIFY(QFileInfo(statePath()).isFile() && !QFileInfo(statePath()).isSymLink());
-            QCOMPARE(
-                QDir(folder)
-                    .entryList({QStringLiteral("*.unusable-*")}, QDir::AllEntries | QDir::System)
-                    .size(),
-                1);
-            for (const QString& name : QDir(folder).entryList({QStringLiteral("*.unusable-*")},
-                                                              QDir::AllEntries | QDir::System))
-                QVERIFY(QFile::remove(folder + QLatin1Char('/') + name) ||
-                        QDir(folder + QLatin1Char('/') + name).removeRecursively());
+            const QStringList aside = QDir(folder).entryList({QStringLiteral("*.unusable-*")},
+                                                             QDir::AllEntries | QDir::System);
+            QCOMPARE(aside.size(), 1);
+            const QString set = folder + QLatin1Char('/') + aside.first();
+            QVERIFY(QFile::remove(set) || QDir(set).removeRecursively());
         }
         QVERIFY(QFileInfo::exists(lookAlike));
-        struct stat info {
-        };
-        QCOMPARE(::stat(path.constData(), &info), 0);
-        QCOMPARE(int(info.st_mode & 0777), 0600);
-        QCOMPARE(::stat(QFile::encodeName(folder).constData(), &info), 0);
-        QCOMPARE(int(info.st_mode & 0777), 0700);
+        QCOMPARE(QFileInfo(statePath()).permissions() & 0x7077,
+                 QFile::ReadOwner | QFile::WriteOwner);
+        QCOMPARE(QFileInfo(folder).permissions() & 0x7077,
+                 QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 
-        const QString lock =
-            home_.filePath(QStringLiteral("norvalex-mutex-NORVALEX_Control.exe.lock"));
+        const QString lock = filePath(QStringLiteral("norvalex-mutex-NORVALEX_Control.exe.lock"));
         for (const QByteArray& junk : {QByteArray(), QByteArray("not a lock\n\x01\x02")}) {
             QFile lockFile(lock);
             QVERIFY(lockFile.open(QIODevice::WriteOnly | QIODevice::Truncate));
             lockFile.write(junk);
             lockFile.close();
-            QVERIFY2(home_->start(), junk.constData());
-            QVERIFY(home_->terminate());
+            QVERIFY2(service_->start(), junk.constData());
+            QVERIFY(service_->terminate());
         }
+    }
+
+    // Each frame of the corpus gets an error with a reason and changes nothing; seeded random
+    // mutations of valid frames do not bring the service down.
+    void malformedFramesChangeNothing()
+    {
+        RawClient watcher;
+        const StateMessage before = connectAndReadState(watcher);
+        const std::vector<uint8_t> good = encodeRequest(lightingRequest(3, 12));
+        const std::vector<uint8_t> payload(good.begin() + kHeaderSize, good.end());
+        Request nanBright;
+        nanBright.type = MessageType::SetColors;
+        nanBright.count = 8;
+        nanBright.bright[3] = std::numeric_limits<float>::quiet_NaN();
+        const QByteArray corpus[] = {
+            QByteArray::fromHex("0300000001001000"), // length 3, below version and type
+            QByteArray::fromHex("0100010001001000"), // length 65537, above the maximum
+            bytesOf(encodeFrame(0x10, payload, kProtocolVersion + 1)),
+            bytesOf(encodeFrame(0x4242, {1, 1, 1, 1})),
+            bytesOf(encodeFrame(0x10, std::vector<uint8_t>(payload.begin(), payload.end() - 1))),
+            bytesOf(encodeRequest(lightingRequest(8, 0))),
+            bytesOf(encodeRequest(lightingRequest(-1, 0))),
+            bytesOf(encodeRequest(lightingRequest(0, 38))),
+            bytesOf(encodeRequest(lightingRequest(0, -1))),
+            bytesOf(encodeRequest(nanBright)),
+        };
+        for (const QByteArray& bytes : corpus) {
+            RawClient client;
+            QVERIFY(client.connectTo(service_->socketPath()));
+            client.sendBytes(bytes);
+            Frame reply;
+            ErrorMessage error;
+            QVERIFY2(client.waitFor(MessageType::Error, &reply) &&
+                         decodeError(reply, error, nullptr) && !error.text.empty(),
+                     bytes.toHex().constData());
+        }
+        QCOMPARE(watcher.countFor(MessageType::State, 100), 0);
+        RawClient probe;
+        QVERIFY(connectAndReadState(probe).state == before.state);
+
+        const QByteArray seeds[] = {bytesOf(good), corpus[5], corpus[9]};
+        QRandomGenerator random(20240611);
+        std::unique_ptr<RawClient> client;
+        for (int i = 0; i < 300; ++i) {
+            if (i % 10 == 0 && !(client && client->isConnected())) {
+                client = std::make_unique<RawClient>();
+                QVERIFY(client->connectTo(service_->socketPath()));
+            }
+            QByteArray frame = seeds[random.bounded(3)];
+            const int choice = random.bounded(3);
+            if (choice == 0)
+                frame[random.bounded(frame.size())] = char(random.bounded(256));
+            else if (choice == 1)
+                frame.truncate(random.bounded(frame.size()));
+            else
+                frame.append(QByteArray(1 + random.bounded(16), char(random.bounded(256))));
+            client->sendBytes(frame);
+            if (i % 10 == 9)
+                client->countFor(MessageType::State, 5);
+        }
+        // Still serving: two valid requests dribbled one byte at a time come through whole.
+        QVERIFY(service_->isRunning());
+        Request lighting = lightingRequest(4, 21);
+        lighting.seq = 1;
+        lighting.colorMode = 3;
+        lighting.lightSpeed = 1;
+        lighting.turnOff = true;
+        Request colors;
+        colors.type = MessageType::SetColors;
+        colors.seq = 2;
+        colors.slot = 5;
+        colors.count = kLedCount;
+        for (int i = 0; i < kLedCount; ++i) {
+            colors.rgb[i] = 0x010203u * COLORREF(i + 1);
+            colors.bright[i] = float(i) / 16.0f;
+        }
+        colors.singleRGB = 0x00AA55;
+        colors.singleBright = 0.5f;
+        RawClient reader; // the mutations may have been valid requests
+        ControlState expected = connectAndReadState(reader).state;
+        QVERIFY(applyRequest(expected, lighting) && applyRequest(expected, colors));
+        const QByteArray stream = bytesOf(encodeRequest(lighting)) + bytesOf(encodeRequest(colors));
+        for (char byte : stream)
+            watcher.sendBytes(QByteArray(1, byte));
+        StateMessage applied;
+        QVERIFY(watcher.waitForState(&applied, 2));
+        QVERIFY(applied.state == expected);
+        QVERIFY(service_->terminate());
+        QCOMPARE(service_->exitCode(), 0);
     }
 };
 

@@ -11,15 +11,25 @@
 #include "QuitRequest.h"
 #include "Setting_View.h"
 
-#include <QButtonGroup>
 #include <QLabel>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QThread>
 #include <QTimer>
+#include <QTranslator>
 #include <QtTest>
 
 #include <functional>
 #include <memory>
+
+namespace {
+// Each message a window receives as "message wParam lParam", the message in hex.
+void record(void* context, unsigned message, std::uintptr_t wParam, std::intptr_t lParam)
+{
+    *static_cast<QStringList*>(context)
+        << QStringLiteral("%1 %2 %3").arg(message, 0, 16).arg(wParam).arg(lParam);
+}
+} // namespace
 
 class TestMainView : public QObject
 {
@@ -37,6 +47,10 @@ private slots:
     void moduleTypes();
     void slotNumbers_data();
     void slotNumbers();
+    // The loading overlay.
+    void spinner();
+    void warningFollowsTheLanguage();
+    void closeAppTellsTheRunningPrograms();
     // Last: it quits the application's event loop.
     void nativeMessages();
     void windowIcon();
@@ -89,27 +103,14 @@ void TestMainView::pageSwitching()
     QCOMPARE(requestsFor(frame->btn_Noti), (QStringList{"noti", "language"}));
     QVERIFY(frame->noti_View->isVisible() && frame->information_View->isHidden());
     QCOMPARE(requestsFor(nullptr), QStringList{"noti"});
-    int loadingValue = 0;
-    connect(frame.get(), &Main_View::sendNotiData, this,
-            [&](NotiEventData sent) { loadingValue = sent.loadingValue; });
-    NotiEventData noti{};
-    noti.loadingValue = 77;
-    emit frame->noti_View->sendNotiData(noti);
-    QCOMPARE(loadingValue, 77);
 
     QCOMPARE(requestsFor(frame->btn_Lighting),
              (QStringList{"slotNum", "ledNum", "rgb", "lighting", "profile", "language"}));
     Lighting_View* lighting = frame->lighting_View;
     QVERIFY(lighting->isVisible() && frame->noti_View->isHidden());
     QCOMPARE(requestsFor(nullptr), (QStringList{"slotNum", "rgb", "lighting", "profile"}));
-    // The menu stays above the wide page created after it.
-    QCOMPARE(frame->childAt(frame->btn_Noti->mapTo(frame.get(), QPoint(100, 20))),
-             static_cast<QWidget*>(frame->btn_Noti));
     emit frame->setProfile(2);
     QVERIFY(lighting->findChild<QPushButton*>("btn_Profile2")->isChecked());
-    QSignalSpy modes(frame.get(), &Main_View::changeLightMode);
-    emit lighting->changeLightMode(2, 31, 1, 3, true);
-    QCOMPARE(modes.value(0), (QVariantList{2, 31, 1, 3, true}));
 
     QCOMPARE(requestsFor(frame->btn_Setting), QStringList{"setting"});
     QVERIFY(frame->setting_View->isVisible() && lighting->isHidden());
@@ -146,10 +147,6 @@ void TestMainView::pageSwitching()
     QVERIFY(lighting->btn_Edit_Cancel->isHidden() && !lighting->btn_Edit->isHidden());
     requestsFor(frame->btn_Info);
     QCOMPARE(cancels.count(), 1);
-
-    QSignalSpy closes(frame.get(), &Main_View::slot_Close);
-    QTest::mouseClick(frame->btn_Close, Qt::LeftButton);
-    QCOMPARE(closes.count(), 1);
 }
 
 void TestMainView::dragging_data()
@@ -316,6 +313,86 @@ void TestMainView::windowIcon()
         accent = accent || (c.blue() > 150 && c.blue() > c.red() + 80);
     }
     QVERIFY(accent);
+}
+
+void TestMainView::spinner()
+{
+    // A full turn in 18 steps.
+    Loading_View view;
+    const int start = view.spinnerAngle();
+    for (int i = 0; i < 18; ++i) {
+        view.rotate();
+        QVERIFY(view.spinnerAngle() != start || i == 17);
+    }
+    QCOMPARE(view.spinnerAngle(), start);
+
+    view.isStartLoading(true);
+    QVERIFY(view.isVisible() && view.loading());
+    // No event processing here: the timer cannot fire, only run down. Starting again keeps it.
+    QThread::msleep(25);
+    const int remaining = view.spinnerTimer()->remainingTime();
+    QVERIFY2(remaining < 30, qPrintable(QString::number(remaining)));
+    view.isStartLoading(true);
+    QVERIFY(view.spinnerTimer()->isActive());
+    QVERIFY(view.spinnerTimer()->remainingTime() <= remaining);
+    QTRY_VERIFY_WITH_TIMEOUT(view.spinnerAngle() != start, 1000);
+
+    view.isStartLoading(false);
+    QVERIFY(view.isHidden() && !view.loading() && !view.spinnerTimer()->isActive());
+    const int stopped = view.spinnerAngle();
+    QTest::qWait(120);
+    QCOMPARE(view.spinnerAngle(), stopped);
+}
+
+void TestMainView::warningFollowsTheLanguage()
+{
+    // The overlay exists before the stored language is known.
+    Loading_View view;
+    QTranslator german;
+    QVERIFY(german.load(QStringLiteral(":/QXRGBMemory/NORVALEX_de.qm")));
+    QCoreApplication::installTranslator(&german);
+    QTRY_COMPARE(view.label_Warning_Content->text(),
+                 QStringLiteral("Kein NORVALEX-Speichermodul gefunden"));
+    QCoreApplication::removeTranslator(&german);
+    QTRY_COMPARE(view.label_Warning_Content->text(), QStringLiteral("Can not Find QX NORVALEX"));
+}
+
+void TestMainView::closeAppTellsTheRunningPrograms()
+{
+    frame.reset(); // it listens under the panel's name
+    QStringList panel;
+    QStringList control;
+    void* panelWindow = Platform::listenForMessages(L"NORVALEX RGB", &record, &panel);
+    void* controlWindow = Platform::listenForMessages(L"NORVALEX RGB Control", &record, &control);
+
+    Loading_View view;
+    view.show();
+    view.isProductWarning(true);
+    const auto clickOK = [&view]() { QTest::mouseClick(view.btn_OK, Qt::LeftButton); };
+
+    // Neither program holds its name: nobody is told, the application still quits.
+    QVERIFY(QuitRequest::during(clickOK, 3000));
+    QVERIFY(panel.isEmpty() && control.isEmpty());
+
+    // Both running: each window gets the quit message with 1, 1.
+    bool existed = true;
+    Platform::MutexHandle panelName = Platform::createMutex(L"NORVALEX RGB.exe", &existed);
+    QVERIFY(!existed);
+    Platform::MutexHandle controlName = Platform::createMutex(L"NORVALEX Control.exe", &existed);
+    QVERIFY(!existed);
+    QVERIFY(QuitRequest::during(clickOK, 3000));
+    QCOMPARE(panel, QStringList{"8301 1 1"});
+    QCOMPARE(control, QStringList{"8301 1 1"});
+
+    // Only the control service running.
+    Platform::closeHandle(panelName);
+    QVERIFY(QuitRequest::during(clickOK, 3000));
+    QCOMPARE(panel.size(), 1);
+    QCOMPARE(control.size(), 2);
+
+    Platform::closeHandle(controlName);
+    Platform::stopListening(controlWindow);
+    Platform::stopListening(panelWindow);
 }
 
 QTEST_MAIN(TestMainView)

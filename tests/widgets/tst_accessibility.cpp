@@ -38,46 +38,74 @@ class TestAccessibility : public QObject
 private slots:
     void initTestCase() { Accessibility::install(); }
 
-    // A switch is a checkable toggle named by its caption; its actions and Space switch it as
-    // a click does, and only Tab gives it the focus.
+    void switchButton_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QPoint>("on");
+        QTest::newRow("47x19") << QSize(47, 19) << QPoint(27, 0);
+        QTest::newRow("60x24") << QSize(60, 24) << QPoint(35, 0);
+    }
+
+    // A switch is a checkable toggle named by its caption; its action, Space and a click switch
+    // it, and only Tab gives it the focus. setChecked places the knob at once and emits
+    // nothing; a switch slides the knob over 100 ms, and a click during the slide does not
+    // toggle but is reported again with the same state.
     void switchButton()
     {
+        QFETCH(QSize, size);
+        QFETCH(QPoint, on);
         QWidget page;
         auto* caption = new QLabel(QStringLiteral("Auto Update"), &page);
-        auto* toggle = new SwitchButton(47, 19, &page);
+        auto* toggle = new SwitchButton(size.width(), size.height(), &page);
         caption->setBuddy(toggle);
         QSignalSpy clicked(toggle, &SwitchButton::sigClicked);
+        const QLabel* knob = toggle->findChild<QLabel*>();
+        QCOMPARE(knob->pos(), QPoint(1, 0));
+        toggle->setChecked(true);
+        QCOMPARE(knob->pos(), on);
+        toggle->setChecked(false);
+        QCOMPARE(knob->pos(), QPoint(1, 0));
+        QCOMPARE(clicked.count(), 0);
 
         QAccessibleInterface* iface = accessible(toggle);
         QCOMPARE(iface->role(), QAccessible::CheckBox);
         QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Auto Update"));
-        QVERIFY(iface->state().checkable);
-        QVERIFY(!iface->state().checked);
-        QVERIFY(iface->state().focusable);
+        QVERIFY(iface->state().checkable && !iface->state().checked && iface->state().focusable);
         QCOMPARE(toggle->focusPolicy(), Qt::TabFocus);
-
         QAccessibleActionInterface* act = iface->actionInterface();
         QVERIFY(act);
         QCOMPARE(act->actionNames().first(), QAccessibleActionInterface::toggleAction());
         act->doAction(QAccessibleActionInterface::toggleAction());
-        QVERIFY(toggle->isChecked());
-        QVERIFY(iface->state().checked);
+        QVERIFY(toggle->isChecked() && iface->state().checked);
         QCOMPARE(clicked.count(), 1);
         QCOMPARE(clicked.last().at(0).toBool(), true);
 
         // The slide must end before the next switch is taken.
-        QTRY_VERIFY_WITH_TIMEOUT(toggle->findChild<QLabel*>()->pos() != QPoint(1, 0), 5000);
-        QTest::qWait(250);
+        QTRY_COMPARE_WITH_TIMEOUT(knob->pos(), on, 5000);
+        QTest::qWait(150);
+        QCOMPARE(knob->pos(), on);
         QTest::keyClick(toggle, Qt::Key_Space);
         QVERIFY(!toggle->isChecked());
         QCOMPARE(clicked.count(), 2);
         QTest::keyClick(toggle, Qt::Key_A);
         QCOMPARE(clicked.count(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(knob->pos(), QPoint(1, 0), 5000);
+        QTest::qWait(150);
+
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        QTest::mouseClick(toggle, Qt::LeftButton);
+        QTest::mouseClick(toggle, Qt::LeftButton, Qt::NoModifier, QPoint(), 50);
+        QCOMPARE(clicked.count(), 4);
+        QCOMPARE(clicked.at(2).at(0).toBool(), true);
+        QCOMPARE(clicked.at(3).at(0).toBool(), true);
+        QVERIFY(toggle->isChecked());
+        QTRY_COMPARE_WITH_TIMEOUT(knob->pos(), on, 5000);
 
         toggle->setEnabled(false);
         QVERIFY(act->actionNames().isEmpty());
         act->doAction(QAccessibleActionInterface::toggleAction());
-        QCOMPARE(clicked.count(), 2);
+        QCOMPARE(clicked.count(), 4);
     }
 
     // Pressing a button through its interface clicks it: released() fires, which the page

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QPoint>
+#include <QProcess>
+#include <QString>
+
+// A private X server (Xvfb on a display number it picks itself) and what a user and a window
+// manager do to one top-level window on it: real pointer and keyboard input (xdotool),
+// screenshots (ImageMagick's import), WM_DELETE_WINDOW, the initial state. Xlib stays inside
+// XSession.cpp.
+class XSession
+{
+public:
+    XSession() = default;
+    ~XSession();
+    XSession(const XSession&) = delete;
+    XSession& operator=(const XSession&) = delete;
+
+    // Starts Xvfb, connects to it and exports DISPLAY, so that every process started later
+    // (the panel, the tools) runs on it.
+    bool start();
+
+    // Waits for a viewable window whose title is exactly `title`; it becomes the window that
+    // input and screenshots go to. 0 when none showed in time.
+    unsigned long waitForWindow(const QByteArray& title, int timeoutMs);
+    unsigned long window() const { return m_window; }
+
+    // WM_HINTS asks the window manager to map the window iconic (minimised).
+    bool startsIconic() const;
+    // What a window manager sends on Alt+F4 or the taskbar's Close.
+    void sendDeleteWindow() const;
+
+    // Pointer input in window coordinates; a drag moves in steps with short pauses so that the
+    // toolkit sees the intermediate positions.
+    bool click(QPoint at) const;
+    bool drag(QPoint from, QPoint to, int steps = 8) const;
+    // Keyboard input goes to the window holding the X input focus; key names separated by
+    // spaces, text without spaces.
+    bool focus() const;
+    bool keys(const QString& names) const;
+    bool type(const QString& text) const;
+    // Empties the focused text field the way a user does, from its end.
+    bool clearField(int length = 6) const;
+
+    // The window's pixels as the X server holds them; null on failure.
+    QImage screenshot() const;
+
+private:
+    QString moveTo(QPoint at) const;
+
+    QProcess m_server;
+    void* m_display = nullptr;
+    unsigned long m_window = 0;
+};
