@@ -1,29 +1,23 @@
 // The controller against the test double library: the poll with its freshness rule, the first
 // delivery of counts and types, the request/answer roads and the hand-off of library callbacks.
+#include "Accessibility.h"
 #include "AppGlobals.h"
 #include "LightingDouble.h"
 #include "Log.h"
 #include "Main_View.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
-#include "QuitRequest.h"
 #include "Setting_View.h"
 #include "TestEnvironment.h"
 #include "Widget_LocationPolicy.h"
 
+#include <QAccessible>
 #include <QtTest>
 
 #include <cstring>
 #include <memory>
 
 namespace {
-
-QStringList boxes;
-
-void recordBox(const std::wstring& text, const std::wstring&, Platform::MessageIcon)
-{
-    boxes << QString::fromStdWString(text);
-}
 
 constexpr quint32 kNow = 1'800'000'000u;
 
@@ -63,7 +57,7 @@ private slots:
     void dropsPreviewFramesThatNothingShows();
     void locationDialogAnswersOncePerChoice();
     void changesLanguageOnlyForKnownIndexes();
-    void quitsOnNativeMessages();
+    void hiddenFromAssistiveTechnology();
 
 private:
     std::unique_ptr<QXRGBMemory> m_controller;
@@ -73,13 +67,15 @@ private:
 void tst_Controller::initTestCase()
 {
     QStandardPaths::setTestModeEnabled(true);
-    Platform::setMessageBoxHook(recordBox);
+    // No message box may wait for a click.
+    Platform::setMessageBoxHook(
+        [](const std::wstring&, const std::wstring&, Platform::MessageIcon) {});
+    Accessibility::install();
 }
 
 void tst_Controller::init()
 {
     Double_reset();
-    boxes.clear();
     m_controller = std::make_unique<QXRGBMemory>(QStringLiteral(NX_DOUBLE_LIBRARY));
     m_controller->pollTimer()->stop();
     m_controller->setClock([]() { return kNow; });
@@ -244,12 +240,7 @@ void tst_Controller::readsLightingAndLedNumbers()
     QSignalSpy lighting(m_controller.get(), &QXRGBMemory::setLighting);
     m_controller->requestSetLighting();
     QCOMPARE(lighting.count(), 8);
-    const QList<QVariant> slot3 = lighting.at(3);
-    QCOMPARE(slot3.at(0).toInt(), 3);
-    QCOMPARE(slot3.at(1).toInt(), 24);
-    QCOMPARE(slot3.at(2).toInt(), 1);
-    QCOMPARE(slot3.at(3).toInt(), 0);
-    QCOMPARE(slot3.at(4).toBool(), true);
+    QCOMPARE(lighting.at(3), (QVariantList{3, 24, 1, 0, true}));
     // Each slot is read in the order turn-off, speed, colour mode, light mode.
     const QStringList calls = QString::fromUtf8(Double_calls()).split('\n', Qt::SkipEmptyParts);
     QCOMPARE(calls.mid(0, 4), (QStringList{"GetValueTurnOff(0)", "GetValueLightSpeed(0)",
@@ -287,29 +278,6 @@ void tst_Controller::handsCallbacksToGuiThread()
     QTRY_COMPARE(Double_callCount("GetSettingValue"), before + 2);
     QCoreApplication::processEvents();
     QCOMPARE(Double_callCount("GetSettingValue"), before + 2);
-
-    // Preview frames from the library's thread are coalesced while one waits.
-    m_controller->mainView()->slot_show_Lighting();
-    QCoreApplication::processEvents();
-    QList<QList<COLORREF*>> previews;
-    connect(m_controller.get(), &QXRGBMemory::updatePreviewList, this,
-            [&previews](const QList<COLORREF*>& list) { previews << list; });
-    for (int i = 0; i < 5; ++i)
-        Double_firePreviewEvent(1);
-    QCOMPARE(previews.size(), 0);
-    QTRY_COMPARE(previews.size(), 1);
-    QCoreApplication::processEvents();
-    QCOMPARE(previews.size(), 1);
-    QCOMPARE(previews.at(0).size(), 8);
-    QCOMPARE(previews.at(0).at(5), Double_softwareRGB(5));
-
-    // Each frame reaches the frame's relay once.
-    int relayed = 0;
-    connect(m_controller->mainView(), &Main_View::updatePreviewList, this,
-            [&relayed]() { ++relayed; });
-    Double_firePreviewEvent(0);
-    QCOMPARE(previews.size(), 2);
-    QCOMPARE(relayed, 1);
 }
 
 void tst_Controller::dropsPreviewFramesThatNothingShows()
@@ -329,9 +297,19 @@ void tst_Controller::dropsPreviewFramesThatNothingShows()
     // The preview coming on screen reads the colours of now once, without waiting for a frame.
     frame->slot_show_Lighting();
     QTRY_COMPARE(previews.size(), 1);
+    QCOMPARE(previews.at(0).size(), 8);
     QCOMPARE(previews.at(0).at(3), Double_softwareRGB(3));
-    Double_firePreviewEvent(1);
+    // Frames from the library's thread are coalesced while one waits; each reaches the frame's
+    // relay once.
+    int relayed = 0;
+    connect(frame, &Main_View::updatePreviewList, this, [&relayed]() { ++relayed; });
+    for (int i = 0; i < 5; ++i)
+        Double_firePreviewEvent(1);
+    QCOMPARE(previews.size(), 1);
     QTRY_COMPARE(previews.size(), 2);
+    QCoreApplication::processEvents();
+    QCOMPARE(previews.size(), 2);
+    QCOMPARE(relayed, 1);
 
     // Another page again: dropped again; back on Lighting: refreshed again.
     frame->slot_show_Noti();
@@ -399,17 +377,19 @@ void tst_Controller::changesLanguageOnlyForKnownIndexes()
     m_controller->changeLanguage(0);
 }
 
-void tst_Controller::quitsOnNativeMessages()
+// The controller's window exists for the message relay only: assistive technology must not list
+// it beside the frame, a named window with its controls below it.
+void tst_Controller::hiddenFromAssistiveTechnology()
 {
-    // A quit holds for the rest of the process, so the one quitting case comes last; 0x8301 is
-    // sent to a running panel by the start-up tests.
-    QXRGBMemory* c = m_controller.get();
-    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8101, 1, 1); }, 1500));
-    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8302, 0, 0); }, 1500));
-    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 1, 0); }, 1500));
-    c->setProgramStart(true);
-    QVERIFY(!QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 0, 0); }, 1500));
-    QVERIFY(QuitRequest::during([c]() { c->handleNativeMessage(0x8303, 1, 0); }, 1500));
+    m_controller->setAttribute(Qt::WA_DontShowOnScreen);
+    m_controller->show();
+    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(m_controller.get());
+    QVERIFY(iface && iface->state().invisible);
+    QCOMPARE(iface->childCount(), 0);
+    QVERIFY(iface->text(QAccessible::Name).isEmpty());
+    QAccessibleInterface* frame = QAccessible::queryAccessibleInterface(m_controller->mainView());
+    QCOMPARE(frame->role(), QAccessible::Window);
+    QVERIFY(!frame->state().invisible && frame->childCount() > 0);
 }
 
 QTEST_MAIN(tst_Controller)

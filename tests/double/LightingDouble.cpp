@@ -1,12 +1,10 @@
 #include "LightingDouble.h"
 
-#include <cstdio>
 #include <cstring>
 #include <mutex>
 #include <sstream>
 #include <string>
 #include <thread>
-#include <utility>
 #include <vector>
 
 #define NX_EXPORT extern "C" __attribute__((visibility("default")))
@@ -27,14 +25,13 @@ struct Module {
 
 struct State {
     std::mutex mutex;
-    std::vector<std::pair<std::string, std::string>> calls;
-    std::string joined;
-    std::string last;
+    // One "Name(args)" line per call.
+    std::vector<std::string> calls;
+    std::string answer;
     HWData hw{};
     NotiEventData noti{};
     SettingData setting{};
     Module modules[NX_MODULE_COUNT];
-    int32_t slotNumbers[NX_MODULE_COUNT] = {};
     int32_t profile = 0;
     UIEventLightModeFunc lightModeCallback = nullptr;
     UIPreviewEventFunc previewCallback = nullptr;
@@ -57,41 +54,24 @@ template <typename... Args> std::string join(const Args&... args)
 void record(const char* name, const std::string& args)
 {
     std::lock_guard<std::mutex> lock(state().mutex);
-    state().calls.emplace_back(name, args);
+    state().calls.push_back(std::string(name) + "(" + args + ")");
 }
 
-void resetState()
-{
-    State& s = state();
-    s.calls.clear();
-    std::memset(&s.hw, 0, sizeof s.hw);
-    std::memset(&s.noti, 0, sizeof s.noti);
-    s.setting = SettingData{0, false, false, false, 0};
-    for (int i = 0; i < NX_MODULE_COUNT; ++i) {
-        s.modules[i] = Module{};
-        s.slotNumbers[i] = i;
-    }
-    s.profile = 0;
-}
-
-bool validSlot(int32_t slot)
-{
-    return slot >= 0 && slot < NX_MODULE_COUNT;
-}
-
-// Records the call and returns the field of the slot's module, or `invalid` for a bad slot.
-template <typename T> T moduleValue(const char* name, int32_t slot, T Module::*field, T invalid)
+// The slot's module; a slot out of range gets slot 0's.
+Module& module(const char* name, int32_t slot)
 {
     record(name, join(slot));
-    return validSlot(slot) ? state().modules[slot].*field : invalid;
+    return state().modules[slot >= 0 && slot < NX_MODULE_COUNT ? slot : 0];
 }
 
-// Records the call and returns the slot's array; a bad slot gets slot 0's.
-template <typename T, std::size_t N>
-T* moduleArray(const char* name, int32_t slot, T (Module::*field)[N])
+// The arguments of a recorded call of `function`, or nothing when the line is another's.
+bool argumentsOf(const std::string& call, const char* function, std::string* args)
 {
-    record(name, join(slot));
-    return state().modules[validSlot(slot) ? slot : 0].*field;
+    const std::size_t length = std::strlen(function);
+    if (call.compare(0, length, function) != 0 || call.size() <= length || call[length] != '(')
+        return false;
+    *args = call.substr(length + 1, call.size() - length - 2);
+    return true;
 }
 
 } // namespace
@@ -116,7 +96,7 @@ NX_EXPORT void RegisterUIPreviewEventFunc(UIPreviewEventFunc callback)
 NX_EXPORT int32_t GetValueMemorySlotNumber(int32_t index)
 {
     record("GetValueMemorySlotNumber", join(index));
-    return validSlot(index) ? state().slotNumbers[index] : -1;
+    return index >= 0 && index < NX_MODULE_COUNT ? index : -1;
 }
 
 NX_EXPORT void SetSlotNumber(int32_t count, int32_t* order)
@@ -147,50 +127,21 @@ NX_EXPORT void SetValueRGB(int32_t slot, COLORREF* rgb, float* bright, COLORREF 
     record("SetValueRGB", out.str());
 }
 
-NX_EXPORT int32_t GetValueLightMode(int32_t slot)
-{
-    return moduleValue("GetValueLightMode", slot, &Module::lightMode, int32_t(-1));
-}
-
-NX_EXPORT int32_t GetValueColorMode(int32_t slot)
-{
-    return moduleValue("GetValueColorMode", slot, &Module::colorMode, int32_t(-1));
-}
-
-NX_EXPORT int32_t GetValueLightSpeed(int32_t slot)
-{
-    return moduleValue("GetValueLightSpeed", slot, &Module::lightSpeed, int32_t(-1));
-}
-
-NX_EXPORT uint8_t GetValueTurnOff(int32_t slot)
-{
-    return moduleValue("GetValueTurnOff", slot, &Module::turnOff, uint8_t(0));
-}
-
-NX_EXPORT COLORREF* GetValueRGB(int32_t slot)
-{
-    return moduleArray("GetValueRGB", slot, &Module::rgb);
-}
-
-NX_EXPORT COLORREF GetValueSingleRGB(int32_t slot)
-{
-    return moduleValue("GetValueSingleRGB", slot, &Module::singleRGB, COLORREF(0));
-}
-
-NX_EXPORT float* GetValueBright(int32_t slot)
-{
-    return moduleArray("GetValueBright", slot, &Module::bright);
-}
-
-NX_EXPORT float GetValueSingleBright(int32_t slot)
-{
-    return moduleValue("GetValueSingleBright", slot, &Module::singleBright, 0.0f);
-}
-
-NX_EXPORT COLORREF* GetValueSoftwareRGB(int32_t slot)
-{
-    return moduleArray("GetValueSoftwareRGB", slot, &Module::software);
-}
+// The per-module getters: each records its call and answers with its field.
+#define NX_MODULE_GETTER(Type, Name, expression)                                                   \
+    NX_EXPORT Type Name(int32_t slot)                                                              \
+    {                                                                                              \
+        return module(#Name, slot).expression;                                                     \
+    }
+NX_MODULE_GETTER(int32_t, GetValueLightMode, lightMode)
+NX_MODULE_GETTER(int32_t, GetValueColorMode, colorMode)
+NX_MODULE_GETTER(int32_t, GetValueLightSpeed, lightSpeed)
+NX_MODULE_GETTER(uint8_t, GetValueTurnOff, turnOff)
+NX_MODULE_GETTER(COLORREF*, GetValueRGB, rgb)
+NX_MODULE_GETTER(COLORREF, GetValueSingleRGB, singleRGB)
+NX_MODULE_GETTER(float*, GetValueBright, bright)
+NX_MODULE_GETTER(float, GetValueSingleBright, singleBright)
+NX_MODULE_GETTER(COLORREF*, GetValueSoftwareRGB, software)
 
 NX_EXPORT HWData GetValueHWData(void)
 {
@@ -240,8 +191,15 @@ NX_EXPORT void SetProfile(int32_t profile)
 
 void Double_reset(void)
 {
-    std::lock_guard<std::mutex> lock(state().mutex);
-    resetState();
+    State& s = state();
+    std::lock_guard<std::mutex> lock(s.mutex);
+    s.calls.clear();
+    std::memset(&s.hw, 0, sizeof s.hw);
+    std::memset(&s.noti, 0, sizeof s.noti);
+    s.setting = SettingData{0, false, false, false, 0};
+    for (Module& m : s.modules)
+        m = Module{};
+    s.profile = 0;
 }
 
 void Double_setHWData(const HWData* data)
@@ -262,7 +220,7 @@ void Double_setSetting(SettingData data)
 void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode, int32_t lightSpeed,
                         uint8_t turnOff)
 {
-    if (!validSlot(slot))
+    if (slot < 0 || slot >= NX_MODULE_COUNT)
         return;
     Module& m = state().modules[slot];
     m.lightMode = lightMode;
@@ -273,38 +231,38 @@ void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode, int3
 
 COLORREF* Double_softwareRGB(int32_t slot)
 {
-    return state().modules[validSlot(slot) ? slot : 0].software;
+    return state().modules[slot >= 0 && slot < NX_MODULE_COUNT ? slot : 0].software;
 }
 
 int Double_callCount(const char* function)
 {
     std::lock_guard<std::mutex> lock(state().mutex);
+    std::string args;
     int count = 0;
-    for (const auto& call : state().calls)
-        count += call.first == function ? 1 : 0;
+    for (const std::string& call : state().calls)
+        count += argumentsOf(call, function, &args) ? 1 : 0;
     return count;
 }
 
 const char* Double_calls(void)
 {
     std::lock_guard<std::mutex> lock(state().mutex);
-    std::string& joined = state().joined;
-    joined.clear();
-    for (const auto& call : state().calls)
-        joined += call.first + "(" + call.second + ")\n";
-    return joined.c_str();
+    state().answer.clear();
+    for (const std::string& call : state().calls)
+        state().answer += call + "\n";
+    return state().answer.c_str();
 }
 
 const char* Double_lastCall(const char* function)
 {
     std::lock_guard<std::mutex> lock(state().mutex);
-    std::string& last = state().last;
-    last.clear();
-    for (const auto& call : state().calls) {
-        if (call.first == function)
-            last = call.second;
+    std::string args;
+    state().answer.clear();
+    for (const std::string& call : state().calls) {
+        if (argumentsOf(call, function, &args))
+            state().answer = args;
     }
-    return last.c_str();
+    return state().answer.c_str();
 }
 
 SettingData Double_lastSetting(void)
@@ -320,22 +278,18 @@ NotiEventData Double_lastNotiEvent(void)
 void Double_fireLightModeEvent(int32_t value, int onOwnThread)
 {
     UIEventLightModeFunc callback = state().lightModeCallback;
-    if (!callback)
-        return;
-    if (onOwnThread)
+    if (callback && onOwnThread)
         std::thread([callback, value]() { callback(value); }).join();
-    else
+    else if (callback)
         callback(value);
 }
 
 void Double_firePreviewEvent(int onOwnThread)
 {
     UIPreviewEventFunc callback = state().previewCallback;
-    if (!callback)
-        return;
-    if (onOwnThread)
-        std::thread([callback]() { callback(); }).join();
-    else
+    if (callback && onOwnThread)
+        std::thread(callback).join();
+    else if (callback)
         callback();
 }
 

@@ -1,6 +1,7 @@
 // The lighting page as the user drives it: the light-mode rules, Apply and Default with what they
-// send, the colour fields, profiles, LED selection with a dragged band, reordering the slots in
-// Edit mode, and a layout that keeps clear of the frame's menu in every language.
+// send, the colour fields and swatch, profiles, LED selection with a dragged band and the row
+// buttons, reordering the slots in Edit mode, and a layout that keeps clear of the frame's menu
+// in every language.
 
 #include "AppGlobals.h"
 #include "Lighting_View.h"
@@ -9,6 +10,7 @@
 #include "Widget_Light_Mode_View.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -64,6 +66,14 @@ struct Page {
                              [slot](Memory_RGB_View* strip) { return strip->slotNumber == slot; });
     }
     void clickSlot(int slot) { QTest::mouseClick(strip(slot)->btn_MemorySlot, Qt::LeftButton); }
+    QPushButton* row(int index)
+    {
+        for (QPushButton* button : page.findChildren<QPushButton*>("btn_SelectHorizontal")) {
+            if (button->text() == QChar('A' + index))
+                return button;
+        }
+        return nullptr;
+    }
     QRect stripRect(int slot) { return QRect(strip(slot)->mapTo(&page, {}), strip(slot)->size()); }
     QPoint ledCorner(int slot, int led) { return strip(slot)->btn_Led[led]->mapTo(&page, {}); }
 
@@ -216,6 +226,7 @@ private slots:
     void defaultResetsColoursForTheNextApply();
     void colourFields();
     void profilePick();
+    void rowButtons();
     void bandDirections_data();
     void bandDirections();
     void bandOnModulesAndAreaEdge();
@@ -447,8 +458,12 @@ void tst_LightingPage::colourFields()
     QCOMPARE(red->text(), QStringLiteral("30"));
     QTest::keyClick(red, Qt::Key_Return);
     QCOMPARE(p.child<QSlider>("slider_R_Value")->value(), 30);
-    // The other channels hold the selected module's first LED, (64, 0, 100).
+    // The other channels hold the selected module's first LED, (64, 0, 100); red is the low byte.
     QCOMPARE(controller.log, QStringList{"pressRGB 64001e"});
+    // The swatch names the colour red first, in a text that stays readable on it.
+    auto* swatch = p.child<QLabel>("label_ColorSwatch");
+    QCOMPARE(swatch->text(), QStringLiteral("#1E0064"));
+    QVERIFY(swatch->styleSheet().contains(QStringLiteral("color:white")));
 
     const QString greenBefore = green->text();
     QTest::mouseClick(green, Qt::LeftButton);
@@ -459,6 +474,41 @@ void tst_LightingPage::colourFields()
     QCOMPARE(green->text(), greenBefore);
     QCOMPARE(p.child<QSlider>("slider_G_Value")->value(), greenBefore.toInt());
     QCOMPARE(controller.log.size(), 1);
+
+    blue->selectAll();
+    QTest::keyClicks(blue, QStringLiteral("255"));
+    QTest::keyClick(blue, Qt::Key_Return);
+    green->setFocus();
+    green->selectAll();
+    QTest::keyClicks(green, QStringLiteral("255"));
+    QTest::keyClick(green, Qt::Key_Return);
+    QCOMPARE(controller.log.last(), QStringLiteral("pressRGB ffff1e"));
+    QCOMPARE(swatch->text(), QStringLiteral("#1EFFFF"));
+    QVERIFY(swatch->styleSheet().contains(QStringLiteral("color:black")));
+}
+
+// Five-LED modules hide rows F-H until an eight-LED one is seen, also after the slots are laid
+// out again. A row reaches every available strip, a strip in Single colour whole; its button is
+// checked only while every shown, available strip has that row.
+void tst_LightingPage::rowButtons()
+{
+    Page p(4, 3, 5);
+    QVERIFY(p.row(4)->isVisible() && p.row(5)->isHidden());
+    p.page.setMemorySlots(4, 3);
+    QVERIFY(p.strip(0)->btn_Led[5]->isHidden() && !p.strip(0)->btn_Led[4]->isHidden());
+
+    p.page.setLighting(1, 15, 1, 1, false);
+    QTest::mouseClick(p.row(2), Qt::LeftButton);
+    QCOMPARE(p.checkedLeds(), QStringList{"0:2"} + ledsOf(1, 1, 0, 7) + QStringList{"2:2"});
+    QVERIFY(p.row(2)->isChecked());
+    QTest::mouseClick(p.strip(2)->btn_Led[2], Qt::LeftButton);
+    QVERIFY(!p.row(2)->isChecked());
+
+    int eight[8] = {8, 5, 5, -1, -1, -1, -1, -1};
+    p.page.setMemoryLEDNumber(8, eight);
+    int five[8] = {5, 5, 5, -1, -1, -1, -1, -1};
+    p.page.setMemoryLEDNumber(8, five);
+    QVERIFY(p.row(7)->isVisible());
 }
 
 // A click picks a profile; the controller's report shows one without sending it back.
@@ -575,7 +625,11 @@ void tst_LightingPage::editSwapApplyAndCancel()
     Recorder controller(&p.page);
     const QRect one = p.stripRect(1);
     const QRect three = p.stripRect(3);
+    p.clickSlot(1);
     QTest::mouseClick(p.page.btn_Edit, Qt::LeftButton);
+    // Edit mode clears the selection and locks the rows and profiles.
+    QVERIFY(!p.strip(1)->btn_MemorySlot->isChecked() && !p.strip(1)->isEnabled());
+    QVERIFY(!p.row(0)->isEnabled() && !p.child("btn_Profile0")->isEnabled());
     p.drag(one.center(), three.center());
     QTRY_COMPARE(p.stripRect(1).topLeft(), three.topLeft());
     QTRY_COMPARE(p.stripRect(3).topLeft(), one.topLeft());
@@ -594,6 +648,7 @@ void tst_LightingPage::editSwapApplyAndCancel()
         QCOMPARE(p.strip(slot)->slotPosition, (QList<int>{0, 3, 2, 1}).at(slot));
     QTRY_COMPARE(p.stripRect(0), zero);
     QVERIFY(p.page.btn_Edit->isVisible());
+    QVERIFY(p.row(0)->isEnabled() && p.child("btn_Profile0")->isEnabled());
     QVERIFY(controller.log.isEmpty());
 }
 
