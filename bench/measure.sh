@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Whole-process figures of the panel and the control service, read from /proc.
 #   bash bench/measure.sh [BUILD_DIR]
+# NX_BENCH_ONLY=panel or NX_BENCH_ONLY=service measures only that process.
 # Runs the panel under its own X server (xvfb-run) in a fresh home, visits the pages with real
 # X input (xdotool) and prints, for every figure, the median of NX_BENCH_RUNS runs (default 3)
 # of NX_BENCH_SECONDS seconds (default 10). CPU is the time every thread of the process spent
@@ -157,9 +158,11 @@ service_run() {
 results="$work/results"
 for ((run = 1; run <= runs; ++run)); do
   echo "run $run of $runs" >&2
-  panel_run >>"$results"
-  bare_run >>"$results"
-  service_run >>"$results"
+  if [ "${NX_BENCH_ONLY:-panel}" = panel ]; then
+    panel_run >>"$results"
+    bare_run >>"$results"
+  fi
+  if [ "${NX_BENCH_ONLY:-service}" = service ]; then service_run >>"$results"; fi
 done
 
 printf '%-26s %10s   %s\n' figure median "runs"

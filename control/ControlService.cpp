@@ -86,7 +86,8 @@ bool ControlService::start(QString* error)
     if (!sleepWatcher_->isWatching()) {
         // Without logind a jump of the wall clock past the monotonic one tells of a resume.
         qCInfo(lcService) << "logind not reachable: resume noticed by the clocks";
-        connect(new ResumeWatch(this), &ResumeWatch::resumed, this, [this] {
+        resumeWatch_ = new ResumeWatch(this);
+        connect(resumeWatch_, &ResumeWatch::resumed, this, [this] {
             qCInfo(lcService) << "resumed: re-applying the lighting";
             reapplyLighting();
         });
@@ -102,7 +103,6 @@ bool ControlService::start(QString* error)
     openRgb_->setModules(hardwareInfo(), state_);
     if (!server_.listen(socketPath_, error))
         return false;
-    monitor_->start();
     clock_.start();
     updateRendering();
     return true;
@@ -187,6 +187,9 @@ void ControlService::handleRequest(ClientConnection& client, const nxproto::Requ
 
 void ControlService::welcome(ClientConnection* client)
 {
+    // The first client after a pause gets fresh readings.
+    updatePolling();
+    connect(client, &ClientConnection::closed, this, &ControlService::updatePolling);
     nxproto::StateMessage message;
     message.ackSeq = client->durableSeq();
     message.changes = nxproto::ChangeAll;
@@ -212,6 +215,8 @@ void ControlService::broadcastState()
     pendingChanges_ = 0;
     if (message.changes & (nxproto::ChangeLighting | nxproto::ChangeProfile))
         openRgb_->setModules(hardwareInfo(), state_);
+    if (message.changes & nxproto::ChangeNotification)
+        checkRules(); // a rule switched on or off takes effect now, not at the next reading
     if (message.changes != 0)
         updateRendering();
     const auto clients = server_.clients();
@@ -251,6 +256,7 @@ int ControlService::addFrameSink(FrameSink sink)
 void ControlService::removeFrameSink(int id)
 {
     sinks_.erase(id);
+    updatePolling();
 }
 
 bool ControlService::framesWanted() const
@@ -262,8 +268,22 @@ bool ControlService::framesWanted() const
                        [](const ClientConnection* client) { return client->wantsPreview(); });
 }
 
+void ControlService::updatePolling()
+{
+    if (!monitor_)
+        return;
+    const NotiEventData& rules = state_.noti;
+    const bool clients = !server_.clients().empty();
+    const bool rendering = framesWanted();
+    monitor_->setActive(clients || rendering || rules.loadingSwitch || rules.shutdownMemorySwitch ||
+                        rules.shutdownCPUSwitch);
+    if (resumeWatch_)
+        resumeWatch_->setActive(clients || rendering || openRgb_->hasOutput());
+}
+
 void ControlService::updateRendering()
 {
+    updatePolling();
     if (!monitor_ || !framesWanted()) {
         frameTimer_.stop();
         music_.stop();
@@ -288,7 +308,11 @@ void ControlService::renderFrame()
     scene.hour = now.hour;
     scene.minute = now.minute;
     scene.second = now.second;
-    const nxproto::HardwareInfo hardware = hardwareInfo();
+    // Read in place unless an output adds its modules.
+    nxproto::HardwareInfo withOutput;
+    if (openRgb_->hasOutput())
+        withOutput = hardwareInfo();
+    const nxproto::HardwareInfo& hardware = openRgb_->hasOutput() ? withOutput : monitor_->info();
     if (EffectRenderer::wantsMusic(state_, hardware)) {
         if (!music_.started())
             qCInfo(lcService) << "Party: listening for the desktop's music";
@@ -323,15 +347,19 @@ void ControlService::renderFrame()
     lastFrame_ = message;
     haveFrame_ = true;
     openRgb_->showFrame(message.colors);
-    std::vector<uint8_t> frame;
-    const auto clients = server_.clients();
-    for (ClientConnection* client : clients) {
+    // A copy of the list: a client that does not read is dropped while it is sent to. Both
+    // buffers keep their storage from frame to frame.
+    recipients_ = server_.clients();
+    bool encoded = false;
+    for (ClientConnection* client : recipients_) {
         if (!client->wantsPreview())
             continue;
-        if (frame.empty())
-            frame = nxproto::encodePreview(message);
-        client->send(frame, true);
+        if (!encoded)
+            nxproto::encodePreview(message, previewBytes_);
+        encoded = true;
+        client->send(previewBytes_, true);
     }
+    recipients_.clear();
     // A sink may remove itself or another while it runs.
     const auto sinks = sinks_;
     for (const auto& entry : sinks)

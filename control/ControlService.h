@@ -23,6 +23,7 @@
 
 class DesktopNotifier;
 class OpenRgbLink;
+class ResumeWatch;
 class SleepWatcher;
 
 // The control service: owns the lighting state, applies the clients' requests, pushes every
@@ -83,6 +84,9 @@ private:
     // demand for it, and renders at once when frames are wanted.
     void updateRendering();
     bool framesWanted() const;
+    // Reads the hardware only while something uses the readings (a client, a rule, the
+    // picture) and watches for resumes only while something shows the lighting.
+    void updatePolling();
     void checkRules();
     void syncAutostart();
     // Writes the state if it has unsaved changes; true when everything is on disk.
@@ -104,6 +108,7 @@ private:
     DesktopNotifier* notifier_ = nullptr;
     RuleActions* rules_ = nullptr;
     SleepWatcher* sleepWatcher_ = nullptr;
+    ResumeWatch* resumeWatch_ = nullptr; // without logind
 
     uint32_t pendingChanges_ = 0;
     // Per identified client, the highest seq applied: a request at or below it is a repeat
@@ -121,6 +126,8 @@ private:
     std::map<int, FrameSink> sinks_;
     int nextSinkId_ = 1;
     MusicCapture music_; // open only while a Party mode is rendered
+    std::vector<ClientConnection*> recipients_;
+    std::vector<uint8_t> previewBytes_;
     nxproto::PreviewMessage lastFrame_;
     bool haveFrame_ = false;
     OpenRgbLink* openRgb_;

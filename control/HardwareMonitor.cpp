@@ -19,13 +19,20 @@ HardwareMonitor::HardwareMonitor(std::unique_ptr<ModuleSource> source, QString r
 {
     timer_.setInterval(kRefreshMs);
     connect(&timer_, &QTimer::timeout, this, &HardwareMonitor::refresh);
-    refresh();
+    read();
 }
 
 HardwareMonitor::~HardwareMonitor() = default;
 
-void HardwareMonitor::start()
+void HardwareMonitor::setActive(bool active)
 {
+    if (active == timer_.isActive())
+        return;
+    if (!active) {
+        timer_.stop();
+        return;
+    }
+    read();
     timer_.start();
 }
 
@@ -45,11 +52,16 @@ std::optional<double> HardwareMonitor::memoryTemperature() const
 
 void HardwareMonitor::refresh()
 {
+    read();
+    emit updated();
+}
+
+void HardwareMonitor::read()
+{
     info_.updateTime = static_cast<uint32_t>(QDateTime::currentSecsSinceEpoch());
     source_->refresh(info_);
     const MemInfo memory = MemInfo::read(root_);
     info_.memoryLoad = memory.load;
     info_.physicalMemoryUsed = memory.usedMB;
     cpuTemperature_ = Hwmon::cpuTemperature(root_);
-    emit updated();
 }

@@ -10,9 +10,9 @@
 #include <memory>
 #include <optional>
 
-// The hardware facts the service reports, refreshed every second: the modules of its module
-// source, the system's memory load and use from meminfo and the processor temperature, all
-// read below `root` ("" for the real system).
+// The hardware facts the service reports, refreshed every second while active: the modules of
+// its module source, the system's memory load and use from meminfo and the processor
+// temperature, all read below `root` ("" for the real system).
 class HardwareMonitor : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,10 @@ public:
     // The hottest present module's temperature from a real source; empty otherwise.
     std::optional<double> memoryTemperature() const;
 
-    void start();
+    // Starts or stops the refreshing. Resuming after a pause reads at once, without
+    // updated(), so that what was read before the pause is never handed out as current.
+    void setActive(bool active);
+    bool isActive() const { return timer_.isActive(); }
     // One refresh: time stamp, modules, memory load, processor temperature.
     void refresh();
 
@@ -36,6 +39,8 @@ signals:
     void updated();
 
 private:
+    void read();
+
     std::unique_ptr<ModuleSource> source_;
     QString root_;
     nxproto::HardwareInfo info_;

@@ -35,6 +35,8 @@ public:
     void setModules(const nxproto::HardwareInfo& hardware, const nxproto::ControlState& state);
     // True while the output streams or SDK clients are connected.
     bool wantsFrames() const;
+    // Whether the lighting goes to an OpenRGB server's devices.
+    bool hasOutput() const { return output_ != nullptr; }
     // Replaces the rendered colours of the modules that SDK clients drive.
     void applyDirect(DirectLighting::Colors& frame) const { direct_.apply(frame); }
     // The picture the modules show now.

@@ -13,6 +13,19 @@ ResumeWatch::ResumeWatch(QObject* parent) : QObject(parent)
     tick();
 }
 
+void ResumeWatch::setActive(bool active)
+{
+    if (active == timer_.isActive())
+        return;
+    if (!active) {
+        timer_.stop();
+        return;
+    }
+    lastWall_ = -1;
+    tick();
+    timer_.start();
+}
+
 bool ResumeWatch::check(qint64 wallMs, qint64 monotonicMs)
 {
     const bool jumped = lastWall_ >= 0 &&

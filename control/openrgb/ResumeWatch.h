@@ -17,6 +17,10 @@ public:
 
     explicit ResumeWatch(QObject* parent = nullptr);
 
+    // Watching starts afresh: a sleep while stopped goes unreported.
+    void setActive(bool active);
+    bool isActive() const { return timer_.isActive(); }
+
     // For tests: one check with the given clock readings.
     bool check(qint64 wallMs, qint64 monotonicMs);
 

@@ -374,15 +374,30 @@ bool decodeHardware(const Frame& frame, HardwareInfo& hardware, std::string* err
 
 std::vector<uint8_t> encodePreview(const PreviewMessage& message)
 {
-    std::vector<uint8_t> payload;
-    payload.reserve(4 + sizeof message.colors);
-    ByteWriter out(payload);
-    out.u32(message.frame);
+    std::vector<uint8_t> out;
+    encodePreview(message, out);
+    return out;
+}
+
+void encodePreview(const PreviewMessage& message, std::vector<uint8_t>& out)
+{
+    constexpr std::size_t payloadSize = 4 + sizeof message.colors;
+    // Stored at known offsets rather than appended byte by byte: this is the one message sent
+    // at the frame rate.
+    out.resize(kHeaderSize + payloadSize);
+    uint8_t* at = out.data();
+    const auto put = [&at](uint32_t value, int bytes) {
+        for (int i = 0; i < bytes; ++i)
+            *at++ = static_cast<uint8_t>(value >> (8 * i));
+    };
+    put(static_cast<uint32_t>(kHeaderSize - kLengthFieldSize + payloadSize), 4);
+    put(kProtocolVersion, 2);
+    put(typeCode(MessageType::Preview), 2);
+    put(message.frame, 4);
     for (const auto& slot : message.colors) {
         for (COLORREF color : slot)
-            out.u32(color);
+            put(color, 4);
     }
-    return encodeFrame(typeCode(MessageType::Preview), payload);
 }
 
 bool decodePreview(const Frame& frame, PreviewMessage& message, std::string* error)

@@ -43,6 +43,8 @@ std::vector<uint8_t> encodeRequest(const Request& request);
 std::vector<uint8_t> encodeState(const StateMessage& message);
 std::vector<uint8_t> encodeHardware(const HardwareInfo& hardware);
 std::vector<uint8_t> encodePreview(const PreviewMessage& message);
+// The same frame written over `out`, whose storage is reused: the service sends one per frame.
+void encodePreview(const PreviewMessage& message, std::vector<uint8_t>& out);
 std::vector<uint8_t> encodeError(const ErrorMessage& message);
 
 bool decodeRequest(const Frame& frame, Request& request, std::string* error);
