@@ -63,8 +63,8 @@ private slots:
             const QTime before = QTime::currentTime();
             const LocalClock::TimeOfDay time = clock.now();
             const QTime after = QTime::currentTime();
-            const QTime ours(time.hour, time.minute, int(time.second),
-                             int(time.second * 1000) % 1000);
+            // Whole milliseconds, rounded: 12.345 s times 1000 may come out as 12344.999...
+            const QTime ours = QTime(time.hour, time.minute).addMSecs(qRound(time.second * 1000));
             const bool between = before.msecsTo(ours) >= 0 && ours.msecsTo(after) >= 0;
             QVERIFY2(between || before > after, // or midnight passed in between
                      qPrintable(ours.toString(Qt::ISODateWithMs)));
