@@ -1,4 +1,5 @@
 #include "PreviewLayers.h"
+#include "PreviewScene.h"
 #include "Widget_Preview.h"
 
 #include <QImage>
@@ -40,35 +41,14 @@ struct Scene {
     Recorded<QWidget> page;
     Recorded<Widget_Preview>* preview = new Recorded<Widget_Preview>(&page);
     COLORREF colors[8][Widget_Preview::MaxLeds] = {};
-    static constexpr int Leds[8] = {8, 5, 8, 8, 5, 8, 0, 0};
 
     Scene()
     {
-        page.resize(300, 280);
-        QImage shade(300, 280, QImage::Format_RGB32);
-        for (int y = 0; y < shade.height(); ++y)
-            for (int x = 0; x < shade.width(); ++x)
-                shade.setPixel(x, y, qRgb(20 + x / 3, 30 + y / 5, 90 - (x + y) / 8));
-        QPalette palette = page.palette();
-        palette.setBrush(QPalette::Window, QPixmap::fromImage(shade));
-        page.setPalette(palette);
-        page.setAutoFillBackground(true);
-        preview->setGeometry(21, 14, 258, 252);
-        preview->setSlotNum(8);
-        preview->setModuleNum(6);
-        preview->setLEDNum(8, Leds);
-        const int order[8] = {2, 0, 1, 3, 7, 4, 6, 5};
-        preview->setSlotsOrder(8, order);
+        PreviewScene::setUp(page, preview);
         page.show();
     }
 
-    void send()
-    {
-        QList<COLORREF*> list;
-        for (auto& module : colors)
-            list << module;
-        preview->updatePreviewList(list);
-    }
+    void send() { PreviewScene::send(preview, colors); }
 
     // Lets the queued repaints happen and forgets what they painted.
     void settle()
@@ -79,8 +59,6 @@ struct Scene {
         preview->reset();
     }
 };
-
-constexpr int Scene::Leds[8];
 
 } // namespace
 

@@ -1,3 +1,4 @@
+#include "PreviewScene.h"
 #include "Widget_Preview.h"
 
 #include <QImage>
@@ -19,8 +20,6 @@ struct CountedPreview : Widget_Preview {
     }
 };
 
-// The preview see-through over a shaded page, as the lighting page holds it: eight slots, two
-// empty, modules of 8 and 5 LEDs in a shuffled order.
 struct PreviewOnPage {
     QWidget page;
     Widget_Preview* preview = new Widget_Preview(&page);
@@ -28,23 +27,7 @@ struct PreviewOnPage {
 
     PreviewOnPage()
     {
-        page.resize(300, 280);
-        // A picture, as the real page's background is.
-        QImage shade(300, 280, QImage::Format_RGB32);
-        for (int y = 0; y < shade.height(); ++y)
-            for (int x = 0; x < shade.width(); ++x)
-                shade.setPixel(x, y, qRgb(10 + x / 4, 40 + y / 8, 70 - (x + y) / 10));
-        QPalette palette = page.palette();
-        palette.setBrush(QPalette::Window, QPixmap::fromImage(shade));
-        page.setPalette(palette);
-        page.setAutoFillBackground(true);
-        preview->setGeometry(21, 14, 258, 252);
-        preview->setSlotNum(8);
-        preview->setModuleNum(6);
-        const int leds[8] = {8, 5, 8, 8, 5, 8, 0, 0};
-        preview->setLEDNum(8, leds);
-        const int order[8] = {2, 0, 1, 3, 7, 4, 6, 5};
-        preview->setSlotsOrder(8, order);
+        PreviewScene::setUp(page, preview);
         paintFrame(0);
     }
 
@@ -55,10 +38,7 @@ struct PreviewOnPage {
                 colors[i][k] = COLORREF((37 * (i + step) + 11 * k) % 256) |
                                COLORREF((91 * k + 13 * i + 7 * step) % 256) << 8 |
                                COLORREF((53 * i * k + 29 * step) % 256) << 16;
-        QList<COLORREF*> list;
-        for (auto& module : colors)
-            list << module;
-        preview->updatePreviewList(list);
+        PreviewScene::send(preview, colors);
     }
 };
 
