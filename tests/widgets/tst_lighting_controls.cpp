@@ -1,0 +1,193 @@
+// The lighting page's own widgets: a module's LED strip, the light-mode list and the colour
+// wheels.
+#include "Memory_RGB_View.h"
+#include "RGB_Palette.h"
+#include "Widget_Light_Mode_View.h"
+#include "Widget_Select_Palette.h"
+
+#include <QGridLayout>
+#include <QImage>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr int Slot = 3;
+constexpr COLORREF Green = 0x00FF00;
+constexpr COLORREF Red = 0x0000FF;
+constexpr COLORREF Blue = 0xFF0000;
+
+using Colors = QVector<COLORREF>;
+
+COLORREF colorRef(QRgb pixel)
+{
+    return qRgb(qBlue(pixel), qGreen(pixel), qRed(pixel)) & 0xFFFFFF;
+}
+
+// The colour painted at the centre of each LED.
+Colors shownColors(Memory_RGB_View& strip)
+{
+    const QImage image = strip.grab().toImage();
+    Colors colors;
+    for (const QPushButton* led : strip.btn_Led)
+        colors << colorRef(image.pixel(led->mapTo(&strip, led->rect().center())));
+    return colors;
+}
+
+Colors storedColors(const Memory_RGB_View& strip)
+{
+    return Colors(std::begin(strip.ledColor), std::end(strip.ledColor));
+}
+
+} // namespace
+
+class TestLightingControls : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // In RGB mode a click selects one LED, in single-colour and off mode the whole module; a
+    // colour lands on the selection while the slot button is checked, and only then.
+    void stripClickThenColour_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<Colors>("shown");
+        QTest::addColumn<Colors>("coloured");
+        QTest::addColumn<COLORREF>("single");
+        const Colors led2Blue{Green, Green, Blue, Green, Green, Green, Green, Green};
+        QTest::newRow("rgb") << 0 << Colors(8, Green) << led2Blue << Red;
+        QTest::newRow("single colour") << 1 << Colors(8, Red) << Colors(8, Blue) << Blue;
+        QTest::newRow("off") << 2 << Colors(8, 0x646464) << Colors(8, 0x646464) << Red;
+    }
+
+    void stripClickThenColour()
+    {
+        QFETCH(int, mode);
+        QFETCH(Colors, shown);
+        QFETCH(Colors, coloured);
+        QFETCH(COLORREF, single);
+        Memory_RGB_View strip;
+        strip.setSlotNumber(Slot);
+        strip.setDisable(true);
+        strip.setLEDNumber(8);
+        strip.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&strip));
+        strip.slot_ChangeColorMode(Slot, mode);
+        QSignalSpy selected(&strip, &Memory_RGB_View::SelectMemSlot);
+        QTest::mouseClick(strip.btn_Led[2], Qt::LeftButton);
+        for (int i = 0; i < Memory_RGB_View::LedCount; ++i)
+            QCOMPARE(strip.btn_Led[i]->isChecked(), mode != 0 || i == 2);
+        QVERIFY(strip.btn_MemorySlot->isChecked());
+        QCOMPARE(shownColors(strip), shown);
+        QCOMPARE(selected.count(), 1);
+        QCOMPARE(selected.at(0).at(0).toInt(), Slot);
+
+        strip.pressRGB(Blue);
+        const Colors stored = storedColors(strip);
+        QCOMPARE(stored, mode == 0 ? coloured : Colors(8, Green));
+        QCOMPARE(strip.singleColor, single);
+        QCOMPARE(shownColors(strip), coloured);
+
+        // A second click deselects the module; a colour then changes nothing, not even on a
+        // checked LED.
+        QTest::mouseClick(strip.btn_Led[2], Qt::LeftButton);
+        QVERIFY(!strip.btn_MemorySlot->isChecked() && !strip.btn_Led[2]->isChecked());
+        QCOMPARE(selected.count(), 2);
+        strip.btn_Led[1]->setChecked(true);
+        strip.pressRGB(0x123456);
+        QCOMPARE(storedColors(strip), stored);
+        QCOMPARE(strip.singleColor, single);
+        QCOMPARE(shownColors(strip), coloured);
+    }
+
+    // With five LEDs shown the default colours repeat the five-colour table.
+    void stripDefaultsForFiveLeds()
+    {
+        Memory_RGB_View strip;
+        strip.setLEDNumber(5);
+        for (int i = 0; i < Memory_RGB_View::LedCount; ++i)
+            strip.setRGB(i, Blue, 0.5f);
+        strip.slot_Default();
+        QCOMPARE(storedColors(strip), (Colors{0x0000FF, 0x00FFD8, 0x3BFF00, 0xFF6200, 0xFF00A7,
+                                              0x0000FF, 0x00FFD8, 0x3BFF00}));
+        QVERIFY(std::all_of(std::begin(strip.ledBright), std::end(strip.ledBright),
+                            [](float b) { return b == 1.0f; }));
+    }
+
+    // Offered modes fill the grid column by column, five to a column; by keyboard the
+    // highlight walks the columns and stops at the ends, an unlisted mode falls back to the
+    // first, and hiding forgets the highlight.
+    void lightModeList()
+    {
+        QMap<int, QString> names;
+        for (int value = 0; value <= 37; ++value)
+            names.insert(value, QStringLiteral("mode %1").arg(value));
+        Widget_Light_Mode_View list(600, 220);
+        list.setLightModeMap(names);
+        const auto* grid = qobject_cast<QGridLayout*>(list.layout());
+        QCOMPARE(grid->count(), 28);
+        int row = -1, column = -1, span = 0;
+        grid->getItemPosition(grid->indexOf(list.findChild<QPushButton*>("14")), &row, &column,
+                              &span, &span);
+        QCOMPARE(QPoint(column, row), QPoint(2, 0));
+        QVERIFY(!list.findChild<QPushButton*>("7"));
+
+        list.show();
+        QVERIFY(QTest::qWaitForWindowActive(&list));
+        QTRY_VERIFY(list.hasFocus());
+        QSignalSpy picked(&list, &Widget_Light_Mode_View::selectLightMode);
+        QTest::mouseClick(list.findChild<QPushButton*>("37"), Qt::LeftButton);
+        QCOMPARE(picked.count(), 1);
+        QCOMPARE(picked.at(0).at(0).toInt(), 37);
+
+        // Offered in order: 0 1 2 3 4 | 5 6 8 9 10 | 14 15 17 18 19 | ...
+        QCOMPARE(list.highlighted(), -1);
+        const std::pair<Qt::Key, int> walk[] = {
+            {Qt::Key_Down, 0}, {Qt::Key_Up, 0},   {Qt::Key_Right, 5},
+            {Qt::Key_Down, 6}, {Qt::Key_Down, 8}, {Qt::Key_Left, 2},
+            {Qt::Key_Left, 2}, {Qt::Key_End, 37}, {Qt::Key_Right, 37}};
+        for (const auto& [key, mode] : walk) {
+            QTest::keyClick(&list, key);
+            QCOMPARE(list.highlighted(), mode);
+        }
+        list.highlight(7);
+        QCOMPARE(list.highlighted(), 0);
+        list.hide();
+        QCOMPARE(list.highlighted(), -1);
+        QCOMPARE(picked.count(), 1);
+    }
+
+    // Both wheels accept a click up to 88 px from the centre and give the picture's own pixel
+    // there (the 176 px picture's last column at the rim); the pop-up shows the picture 12 px
+    // in from its corner.
+    void wheelPicks()
+    {
+        const QImage picture(QStringLiteral(":/QXRGBMemory/Images/palette.png"));
+        const QPoint refused(-1, -1);
+        const struct {
+            bool popup;
+            QPoint click;
+            QPoint sample;
+        } cases[] = {{false, {88, 88}, {88, 88}},
+                     {false, {176, 101}, {175, 101}},
+                     {false, {177, 88}, refused},
+                     {true, {12, 100}, {0, 88}},
+                     {true, {189, 100}, refused}};
+        for (const auto& c : cases) {
+            const std::unique_ptr<QWidget> wheel(
+                c.popup ? static_cast<QWidget*>(new Widget_Select_Palette) : new RGB_Palette);
+            QSignalSpy picked(wheel.get(), SIGNAL(pressRGB(COLORREF)));
+            QTest::mouseClick(wheel.get(), Qt::LeftButton, Qt::NoModifier, c.click);
+            QCOMPARE(picked.count(), c.sample == refused ? 0 : 1);
+            if (c.sample != refused)
+                QCOMPARE(picked.at(0).at(0).value<COLORREF>(), colorRef(picture.pixel(c.sample)));
+        }
+    }
+};
+
+QTEST_MAIN(TestLightingControls)
+#include "tst_lighting_controls.moc"
