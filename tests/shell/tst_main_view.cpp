@@ -14,7 +14,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStandardPaths>
-#include <QThread>
 #include <QTimer>
 #include <QTranslator>
 #include <QtTest>
@@ -45,9 +44,7 @@ private slots:
     void dragging();
     void moduleTypes_data();
     void moduleTypes();
-    void slotNumbers_data();
     void slotNumbers();
-    // The loading overlay.
     void spinner();
     void warningFollowsTheLanguage();
     void closeAppTellsTheRunningPrograms();
@@ -114,30 +111,21 @@ void TestMainView::pageSwitching()
 
     QCOMPARE(requestsFor(frame->btn_Setting), QStringList{"setting"});
     QVERIFY(frame->setting_View->isVisible() && lighting->isHidden());
-    QCOMPARE(requestsFor(nullptr), QStringList{"setting"});
-
     QCOMPARE(requestsFor(frame->btn_Info), QStringList());
     QVERIFY(frame->information_View->isVisible() && frame->setting_View->isHidden());
-    QCOMPARE(requestsFor(nullptr), QStringList());
     HWData data{};
     data.memoryLoad = 42.5;
     emit frame->setHWData(data);
     QCOMPARE(frame->information_View->findChild<QLabel*>("label_Percent")->text(),
              QStringLiteral("42.50"));
 
-    // Each page is created once.
-    const QList<QWidget*> created{frame->lighting_View, frame->noti_View, frame->setting_View};
-    const int widgets = frame->findChildren<QWidget*>().size();
-    for (QPushButton* entry : {frame->btn_Lighting, frame->btn_Noti, frame->btn_Setting})
-        requestsFor(entry);
-    QCOMPARE((QList<QWidget*>{frame->lighting_View, frame->noti_View, frame->setting_View}),
-             created);
-    QCOMPARE(frame->findChildren<QWidget*>().size(), widgets);
-
-    // Leaving Lighting in the middle of a slot edit cancels the edit, and only then.
+    // Each page is created once. Leaving Lighting in the middle of a slot edit cancels the
+    // edit, and only then.
+    Noti_View* noti = frame->noti_View;
     QSignalSpy cancels(lighting->btn_Edit_Cancel, &QPushButton::released);
     requestsFor(frame->btn_Lighting);
     requestsFor(frame->btn_Noti);
+    QVERIFY(frame->lighting_View == lighting && frame->noti_View == noti);
     QCOMPARE(cancels.count(), 0);
     requestsFor(frame->btn_Lighting);
     QTest::mouseClick(lighting->btn_Edit, Qt::LeftButton);
@@ -145,40 +133,31 @@ void TestMainView::pageSwitching()
     requestsFor(frame->btn_Setting);
     QCOMPARE(cancels.count(), 1);
     QVERIFY(lighting->btn_Edit_Cancel->isHidden() && !lighting->btn_Edit->isHidden());
-    requestsFor(frame->btn_Info);
-    QCOMPARE(cancels.count(), 1);
 }
 
 void TestMainView::dragging_data()
 {
     QTest::addColumn<QPoint>("press");
     QTest::addColumn<bool>("moves");
-
-    QTest::newRow("title strip") << QPoint(100, 20) << true;
     QTest::newRow("last row of the strip") << QPoint(300, 44) << true;
-    QTest::newRow("left of the window buttons") << QPoint(924, 5) << true;
     QTest::newRow("first row below the strip") << QPoint(300, 45) << false;
     QTest::newRow("window buttons' column") << QPoint(925, 5) << false;
-    QTest::newRow("page area") << QPoint(500, 300) << false;
 }
 
 void TestMainView::dragging()
 {
     QFETCH(QPoint, press);
     QFETCH(bool, moves);
-
     frame->move(100, 100);
     frame->show();
     QVERIFY(QTest::qWaitForWindowExposed(frame.get()));
     const QPoint start = frame->pos();
     const QPoint delta(30, 12);
-
     QWindow* window = frame->windowHandle();
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, press);
     QTest::mouseMove(window, press + delta);
     QCOMPARE(frame->pos(), moves ? start + delta : start);
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, press + delta);
-
     // After the release, moving the mouse leaves the window where it is.
     const QPoint afterRelease = frame->pos();
     QTest::mouseMove(window, press + delta + delta);
@@ -190,16 +169,9 @@ void TestMainView::moduleTypes_data()
     QTest::addColumn<QStringList>("types");
     QTest::addColumn<bool>("extended");
     QTest::addColumn<bool>("newMode");
-
-    const QString none;
-    QTest::newRow("empty list") << QStringList() << false << false;
-    QTest::newRow("unsupported") << QStringList{"DDR4-3200", "KX30", "KZ70"} << false << false;
-    QTest::newRow("case matters") << QStringList{"kx44"} << false << false;
-    QTest::newRow("KX44 inside a model text") << QStringList{none, "NVX-KX44-16G"} << true << true;
-    for (const char* code : {"KX31", "KX52", "KX67", "KZ71", "KZ72", "KZ73", "KZ74"})
-        QTest::newRow(code) << QStringList{none, QLatin1String(code) + QLatin1String("-8G")} << true
-                            << false;
-    QTest::newRow("mixed") << QStringList{"KZ74", "OTHER", "KX44"} << true << true;
+    QTest::newRow("unsupported") << QStringList{"DDR4-3200", "kx44", "KZ70"} << false << false;
+    QTest::newRow("KX44 inside a model text") << QStringList{"", "NVX-KX44-16G"} << true << true;
+    QTest::newRow("KZ74") << QStringList{"", "KZ74-8G"} << true << false;
 }
 
 void TestMainView::moduleTypes()
@@ -207,52 +179,30 @@ void TestMainView::moduleTypes()
     QFETCH(QStringList, types);
     QFETCH(bool, extended);
     QFETCH(bool, newMode);
-
     frame->setQXModuleType(types);
     QCOMPARE(extendedFeatures, extended);
     QCOMPARE(isNewMode, newMode);
     QCOMPARE(frame->btn_Lighting->isHidden(), !extended);
-
     // Each list decides extendedFeatures afresh; isNewMode is never lowered.
-    frame->setQXModuleType({"KX31"});
-    QVERIFY(extendedFeatures);
-    QCOMPARE(isNewMode, newMode);
     frame->setQXModuleType({"GENERIC"});
-    QVERIFY(!extendedFeatures);
+    QVERIFY(!extendedFeatures && frame->btn_Lighting->isHidden());
     QCOMPARE(isNewMode, newMode);
-    QVERIFY(frame->btn_Lighting->isHidden());
 }
 
-void TestMainView::slotNumbers_data()
-{
-    QTest::addColumn<int>("slotCount");
-    QTest::addColumn<int>("modules");
-
-    QTest::newRow("slots but no module") << 4 << 0;
-    QTest::newRow("eight slots, two modules") << 8 << 2;
-    QTest::newRow("nothing") << 0 << 0;
-}
-
+// Loading ends also without a module; the missing-module warning is never left on screen, and
+// the Information grid shows the slots.
 void TestMainView::slotNumbers()
 {
-    QFETCH(int, slotCount);
-    QFETCH(int, modules);
-
     frame->show();
-    frame->setSlotNumber(slotCount, modules);
-    QCOMPARE(frame->storedSlotCount(), slotCount);
-    QCOMPARE(frame->storedMemoryCount(), modules);
-
-    // Loading ends in every case; the missing-module warning is never left on screen.
+    frame->setSlotNumber(4, 0);
+    QCOMPARE(frame->storedSlotCount(), 4);
+    QCOMPARE(frame->storedMemoryCount(), 0);
     Loading_View* loading = frame->loading_View;
-    QVERIFY(loading->isHidden());
-    QVERIFY(!loading->loading() && !loading->spinnerTimer()->isActive());
+    QVERIFY(loading->isHidden() && !loading->loading() && !loading->spinnerTimer()->isActive());
     QVERIFY(!loading->label_Warning->isVisible());
-
     Information_Slots_View* grid = frame->information_View->slotsView();
     for (int number = 1; number <= 8; ++number)
-        QCOMPARE(grid->findChild<QPushButton*>(QString::number(number))->isVisible(),
-                 number <= slotCount);
+        QCOMPARE(grid->findChild<QPushButton*>(QString::number(number))->isVisible(), number <= 4);
 }
 
 void TestMainView::nativeMessages()
@@ -273,7 +223,6 @@ void TestMainView::nativeMessages()
     };
     // 0x8303 quits only a panel the control service started, and only with a non-zero wParam.
     QVERIFY(!QuitRequest::during(message(Platform::kMessageQuitIfOpened, 1), 300));
-    QVERIFY(!QuitRequest::during(message(Platform::kMessageRaise, 1), 300));
     programStarted = true;
     QVERIFY(!QuitRequest::during(message(Platform::kMessageQuitIfOpened, 0), 300));
     QVERIFY(QuitRequest::during(message(Platform::kMessageQuitIfOpened, 1), 300));
@@ -287,61 +236,27 @@ void TestMainView::nativeMessages()
     QCOMPARE(Platform::findWindow(L"NORVALEX RGB"), Platform::WindowHandle(0));
 }
 
-// The frame carries the application icon, which desktops show in the task bar: the logo's mark
-// on a tile, transparent outside the tile's rounded corners, in the small sizes task bars use.
+// The frame carries the application icon in the small sizes task bars use; X11 takes every
+// size in one _NET_WM_ICON request of at most 65535 words.
 void TestMainView::windowIcon()
 {
-    const QIcon icon = frame->windowIcon();
-    QVERIFY(!icon.isNull());
-    const QList<QSize> sizes = icon.availableSizes();
-    QVERIFY(sizes.contains(QSize(16, 16)));
-    QVERIFY(sizes.contains(QSize(32, 32)));
-    // X11 takes every size in one _NET_WM_ICON request: at most 65535 words of 32 bits.
+    const QList<QSize> sizes = frame->windowIcon().availableSizes();
+    QVERIFY(sizes.contains(QSize(16, 16)) && sizes.contains(QSize(32, 32)));
     int words = 0;
     for (const QSize& size : sizes)
         words += 2 + size.width() * size.height();
     QVERIFY2(words <= 65535, qPrintable(QString::number(words)));
-
-    const QImage image = icon.pixmap(64, 64).toImage().convertToFormat(QImage::Format_ARGB32);
-    QCOMPARE(image.size(), QSize(64, 64));
-    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
-    QCOMPARE(qAlpha(image.pixel(32, 32)), 255);
-    // The mark is the accent blue somewhere across the middle row.
-    bool accent = false;
-    for (int x = 0; x < 64; ++x) {
-        const QColor c = image.pixelColor(x, 32);
-        accent = accent || (c.blue() > 150 && c.blue() > c.red() + 80);
-    }
-    QVERIFY(accent);
 }
 
 void TestMainView::spinner()
 {
-    // A full turn in 18 steps.
     Loading_View view;
     const int start = view.spinnerAngle();
-    for (int i = 0; i < 18; ++i) {
-        view.rotate();
-        QVERIFY(view.spinnerAngle() != start || i == 17);
-    }
-    QCOMPARE(view.spinnerAngle(), start);
-
     view.isStartLoading(true);
     QVERIFY(view.isVisible() && view.loading());
-    // No event processing here: the timer cannot fire, only run down. Starting again keeps it.
-    QThread::msleep(25);
-    const int remaining = view.spinnerTimer()->remainingTime();
-    QVERIFY2(remaining < 30, qPrintable(QString::number(remaining)));
-    view.isStartLoading(true);
-    QVERIFY(view.spinnerTimer()->isActive());
-    QVERIFY(view.spinnerTimer()->remainingTime() <= remaining);
     QTRY_VERIFY_WITH_TIMEOUT(view.spinnerAngle() != start, 1000);
-
     view.isStartLoading(false);
     QVERIFY(view.isHidden() && !view.loading() && !view.spinnerTimer()->isActive());
-    const int stopped = view.spinnerAngle();
-    QTest::qWait(120);
-    QCOMPARE(view.spinnerAngle(), stopped);
 }
 
 void TestMainView::warningFollowsTheLanguage()
@@ -377,19 +292,13 @@ void TestMainView::closeAppTellsTheRunningPrograms()
     // Both running: each window gets the quit message with 1, 1.
     bool existed = true;
     Platform::MutexHandle panelName = Platform::createMutex(L"NORVALEX RGB.exe", &existed);
-    QVERIFY(!existed);
     Platform::MutexHandle controlName = Platform::createMutex(L"NORVALEX Control.exe", &existed);
     QVERIFY(!existed);
     QVERIFY(QuitRequest::during(clickOK, 3000));
     QCOMPARE(panel, QStringList{"8301 1 1"});
     QCOMPARE(control, QStringList{"8301 1 1"});
 
-    // Only the control service running.
     Platform::closeHandle(panelName);
-    QVERIFY(QuitRequest::during(clickOK, 3000));
-    QCOMPARE(panel.size(), 1);
-    QCOMPARE(control.size(), 2);
-
     Platform::closeHandle(controlName);
     Platform::stopListening(controlWindow);
     Platform::stopListening(panelWindow);
