@@ -2,7 +2,9 @@
 // the service), read the Information page, light two modules, switch profiles, reorder slots,
 // change a notification rule and the language, quit, start again and find every choice kept.
 // Each step is checked in the service's state, read through our lighting library, and where
-// the user would look, in the pixels of a screenshot.
+// the user would look, in the pixels of a screenshot. Then the panel as a desktop session
+// treats it: quiet on standard error, closed by the window manager, started minimised, started
+// for the first time under a German desktop.
 #include "LightingApi.h"
 #include "PanelLayout.h"
 #include "Pixels.h"
@@ -45,21 +47,47 @@ class tst_Journey : public QObject
         return pid > 0 && QFile::exists(QStringLiteral("/proc/%1").arg(pid)) ? pid : -1;
     }
 
-    // As a user starts it: the panel from the build, on the X display, in the clean home; then
-    // the loading view, which shades the whole window, ends: the logo shows white.
-    void startPanel()
+    // As a user starts it: the panel from the build, on the X display, in the clean home, under
+    // an English desktop unless `extra` says otherwise.
+    void startPanel(const QStringList& arguments = {}, const QProcessEnvironment& extra = {})
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"QT_LOGGING_RULES", "LANGUAGE", "LC_ALL", "LC_MESSAGES"})
+            env.remove(QString::fromLatin1(name));
         env.insert("QT_QPA_PLATFORM", "xcb");
+        env.insert("LANG", "C.UTF-8");
+        env.insert(extra);
         m_panel.setProcessEnvironment(env);
-        m_panel.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_panel.start(QStringLiteral(NX_PANEL_EXECUTABLE), QStringList());
+        m_panel.start(QStringLiteral(NX_PANEL_EXECUTABLE), arguments);
         QVERIFY(m_panel.waitForStarted(kStepMs));
         QVERIFY2(m_x.waitForWindow("NORVALEX RGB", kStartMs), "no panel window");
         // Without a window manager the keyboard follows the X input focus, given once here: a
         // focus change later would end the editing of a field.
         QVERIFY(m_x.focus());
     }
+    // Closes the frame as a window manager does (Alt+F4, the taskbar's Close).
+    void closeByWindowManager()
+    {
+        m_x.sendDeleteWindow();
+        QVERIFY(m_panel.waitForFinished(kStepMs));
+        QCOMPARE(m_panel.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(m_panel.exitCode(), 0);
+        QVERIFY(!Platform::mutexExists(L"NORVALEX RGB.exe"));
+    }
+    // A service still starting holds its lock before it listens for messages: ask again until
+    // it has gone.
+    void stopService()
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (servicePid() > 0 && clock.elapsed() < kStartMs) {
+            Platform::sendMessage(Platform::findWindow(L"NORVALEX RGB Control"),
+                                  Platform::kMessageQuit, 0, 0);
+            QTest::qWait(500);
+        }
+        QVERIFY(servicePid() < 0);
+    }
+
     bool waitForLoaded()
     {
         const QRect logo = m_layout->rectOf(m_layout->frame()->label_Logo);
@@ -318,6 +346,53 @@ private slots:
         click(m_layout->frame()->btn_Lighting);
         QCOMPARE(waitForShot([this](const QImage& s) { return litModulesFault(s); }, "lit"),
                  QString());
+    }
+
+    // Without QT_LOGGING_RULES every page stays under a line of standard error a second; the
+    // window manager's close ends the panel cleanly; --background maps the frame iconic.
+    void behavesInADesktopSession()
+    {
+        constexpr int kSeconds = 3;
+        Main_View* frame = m_layout->frame();
+        m_panel.readAllStandardError();
+        for (QPushButton* page :
+             {frame->btn_Info, frame->btn_Lighting, frame->btn_Noti, frame->btn_Setting}) {
+            click(page);
+            QTest::qWait(kSeconds * 1000);
+            const QByteArray lines = m_panel.readAllStandardError();
+            QVERIFY2(lines.count('\n') < kSeconds, lines.constData());
+        }
+        QVERIFY(!m_x.startsIconic());
+        closeByWindowManager();
+        stopService();
+        startPanel({QStringLiteral("--background")});
+        QVERIFY(m_x.startsIconic());
+        closeByWindowManager();
+    }
+
+    // A first start under a German desktop stores and shows German.
+    void firstStartInTheDesktopLanguage()
+    {
+        stopService();
+        const QString config = TestEnvironment::root().path() + "/german-config";
+        QProcessEnvironment german;
+        german.insert("LANG", "de_DE.UTF-8");
+        german.insert("XDG_CONFIG_HOME", config);
+        german.insert("QT_LOGGING_RULES", "norvalex.panel.debug=true");
+        startPanel({}, german);
+        QByteArray seen;
+        QElapsedTimer clock;
+        clock.start();
+        while (!seen.contains("QXRGBMemory::changeLanguage 3") && clock.elapsed() < kStartMs) {
+            QTest::qWait(100);
+            seen += m_panel.readAllStandardError();
+        }
+        QVERIFY(seen.contains("QXRGBMemory::changeLanguage 3"));
+        closeByWindowManager();
+        stopService();
+        QFile state(config + "/norvalex/control-state.json");
+        QVERIFY(state.open(QIODevice::ReadOnly));
+        QVERIFY(state.readAll().contains("\"languageIndex\": 3"));
     }
 };
 
