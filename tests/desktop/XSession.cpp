@@ -17,9 +17,7 @@ Display* dpy(void* display)
 // Without a window manager every top-level window is a child of the root window.
 Window findTopLevel(Display* display, const QByteArray& title)
 {
-    Window root = 0;
-    Window parent = 0;
-    Window* children = nullptr;
+    Window root = 0, parent = 0, *children = nullptr;
     unsigned count = 0;
     if (!XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count))
         return 0;
@@ -44,14 +42,11 @@ bool xdotool(const QString& arguments)
 {
     QProcess process;
     process.start(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' ')));
-    if (process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit &&
-        process.exitCode() == 0)
-        return true;
-    qWarning().noquote() << "xdotool" << arguments
-                         << "failed:" << process.readAllStandardError().trimmed();
-    process.kill();
-    process.waitForFinished(1000);
-    return false;
+    const bool ok = process.waitForFinished(30000) &&
+                    process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    if (!ok)
+        qWarning() << "xdotool" << arguments << process.readAllStandardError();
+    return ok;
 }
 
 } // namespace
@@ -60,12 +55,9 @@ XSession::~XSession()
 {
     if (m_display)
         XCloseDisplay(dpy(m_display));
-    if (m_server.state() != QProcess::NotRunning) {
-        m_server.terminate();
-        if (!m_server.waitForFinished(5000))
-            m_server.kill();
-        m_server.waitForFinished(2000);
-    }
+    m_server.terminate();
+    if (!m_server.waitForFinished(5000))
+        m_server.kill();
 }
 
 bool XSession::start()
@@ -75,15 +67,9 @@ bool XSession::start()
                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                     QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"),
                     QStringLiteral("tcp")});
-    QElapsedTimer clock;
-    clock.start();
     QByteArray number;
-    while (!number.endsWith('\n') && clock.elapsed() < 20000) {
-        if (m_server.state() == QProcess::NotRunning)
-            return false;
-        m_server.waitForReadyRead(200);
+    while (!number.endsWith('\n') && m_server.waitForReadyRead(20000))
         number += m_server.readAllStandardOutput();
-    }
     if (!number.endsWith('\n'))
         return false;
     const QByteArray name = ':' + number.trimmed();

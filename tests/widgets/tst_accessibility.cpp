@@ -119,27 +119,19 @@ private slots:
         QCOMPARE(released.count(), 1);
         QVERIFY(entry->isChecked() && iface->state().checked);
 
-        // A checkable button that is not a tab toggles; press comes first as the default.
-        auto* unit = new QPushButton(QStringLiteral("°C"), &page);
-        unit->setCheckable(true);
-        QCOMPARE(accessible(unit)->role(), QAccessible::CheckBox);
-        QCOMPARE(accessible(unit)->actionInterface()->actionNames(),
-                 (QStringList{QAccessibleActionInterface::pressAction(),
-                              QAccessibleActionInterface::toggleAction()}));
-
         // A button labelled from outside is named by the label and shows its caption as value.
         auto* caption = new QLabel(QStringLiteral("Language"), &page);
         auto* language = new QPushButton(QStringLiteral("en"), &page);
         caption->setBuddy(language);
         QCOMPARE(nameOf(language), QStringLiteral("Language"));
         QCOMPARE(accessible(language)->text(QAccessible::Description), QStringLiteral("en"));
-        for (QWidget* w : {static_cast<QWidget*>(entry), static_cast<QWidget*>(unit),
-                           static_cast<QWidget*>(caption), static_cast<QWidget*>(language)})
+        auto* other = new QPushButton(QStringLiteral("Cancel"), &page);
+        for (QWidget* w : QList<QWidget*>{entry, other, caption, language})
             layout->addWidget(w);
 
         page.show();
         QVERIFY(QTest::qWaitForWindowActive(&page));
-        QSignalSpy unitClicked(unit, &QPushButton::clicked);
+        QSignalSpy otherClicked(other, &QPushButton::clicked);
         entry->setFocus(Qt::TabFocusReason);
         QTest::keyClick(entry, Qt::Key_Return);
         QTRY_COMPARE(released.count(), 2);
@@ -152,7 +144,7 @@ private slots:
         QTest::keyClick(entry, Qt::Key_Return);
         QTest::qWait(300);
         QCOMPARE(released.count(), 3);
-        QCOMPARE(unitClicked.count(), 0);
+        QCOMPARE(otherClicked.count(), 0);
 
         QDialog dialog;
         auto* ok = new QPushButton(QStringLiteral("OK"), &dialog);
@@ -171,17 +163,9 @@ private slots:
         QCOMPARE(focusedClicked.count(), 0);
     }
 
-    // LED buttons are named by slot, row letter and the colour they show, and follow changes;
-    // colours get plain names: hue, with dark or pale for weak ones, grey levels, black is off.
+    // LED buttons are named by slot, row letter and the colour they show, and follow changes.
     void ledNames()
     {
-        const std::pair<QColor, const char*> colours[] = {
-            {QColor(255, 0, 40), "red"},     {QColor(140, 0, 255), "purple"},
-            {QColor(90, 0, 0), "dark red"},  {QColor(150, 150, 255), "pale blue"},
-            {QColor(180, 180, 180), "gray"}, {QColor(0, 0, 0), "off"}};
-        for (const auto& [colour, name] : colours)
-            QCOMPARE(ColorNames::describe(colour), QString::fromLatin1(name));
-
         Memory_RGB_View strip;
         strip.setSlotNumber(1);
         strip.setLEDNumber(8);
