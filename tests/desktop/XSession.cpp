@@ -9,11 +9,6 @@
 
 namespace {
 
-Display* dpy(void* display)
-{
-    return static_cast<Display*>(display);
-}
-
 // Without a window manager every top-level window is a child of the root window.
 Window findTopLevel(Display* display, const QByteArray& title)
 {
@@ -54,7 +49,7 @@ bool xdotool(const QString& arguments)
 XSession::~XSession()
 {
     if (m_display)
-        XCloseDisplay(dpy(m_display));
+        XCloseDisplay(m_display);
     m_server.terminate();
     if (!m_server.waitForFinished(5000))
         m_server.kill();
@@ -83,8 +78,8 @@ unsigned long XSession::waitForWindow(const QByteArray& title, int timeoutMs)
     QElapsedTimer clock;
     clock.start();
     do {
-        XSync(dpy(m_display), False);
-        m_window = findTopLevel(dpy(m_display), title);
+        XSync(m_display, False);
+        m_window = findTopLevel(m_display, title);
         if (m_window)
             return m_window;
         QTest::qWait(100);
@@ -94,7 +89,7 @@ unsigned long XSession::waitForWindow(const QByteArray& title, int timeoutMs)
 
 bool XSession::startsIconic() const
 {
-    XWMHints* hints = XGetWMHints(dpy(m_display), m_window);
+    XWMHints* hints = XGetWMHints(m_display, m_window);
     if (!hints)
         return false;
     const bool iconic = (hints->flags & StateHint) && hints->initial_state == IconicState;
@@ -104,16 +99,15 @@ bool XSession::startsIconic() const
 
 void XSession::sendDeleteWindow() const
 {
-    Display* display = dpy(m_display);
     XEvent event = {};
     event.xclient.type = ClientMessage;
     event.xclient.window = m_window;
-    event.xclient.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
+    event.xclient.message_type = XInternAtom(m_display, "WM_PROTOCOLS", False);
     event.xclient.format = 32;
-    event.xclient.data.l[0] = long(XInternAtom(display, "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[0] = long(XInternAtom(m_display, "WM_DELETE_WINDOW", False));
     event.xclient.data.l[1] = CurrentTime;
-    XSendEvent(display, m_window, False, NoEventMask, &event);
-    XFlush(display);
+    XSendEvent(m_display, m_window, False, NoEventMask, &event);
+    XFlush(m_display);
 }
 
 QString XSession::moveTo(QPoint at) const

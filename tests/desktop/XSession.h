@@ -51,6 +51,6 @@ private:
     QString moveTo(QPoint at) const;
 
     QProcess m_server;
-    void* m_display = nullptr;
+    struct _XDisplay* m_display = nullptr;
     unsigned long m_window = 0;
 };

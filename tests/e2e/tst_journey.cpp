@@ -88,21 +88,10 @@ class tst_Journey : public QObject
         QVERIFY(servicePid() < 0);
     }
 
-    bool waitForLoaded()
-    {
-        const QRect logo = m_layout->rectOf(m_layout->frame()->label_Logo);
-        QElapsedTimer clock;
-        clock.start();
-        bool loaded = false;
-        while (!(loaded = Pixels::brightest(m_x.screenshot(), logo) > 200) &&
-               clock.elapsed() < kStartMs)
-            QTest::qWait(200);
-        return loaded;
-    }
-
     // Takes screenshots until one passes the check or the time is up; the last fault, empty when
     // one passed. With NX_E2E_SHOTS set to a directory, the last screenshot is kept there.
-    QString waitForShot(const std::function<QString(const QImage&)>& fault, const char* name)
+    QString waitForShot(const std::function<QString(const QImage&)>& fault, const char* name,
+                        int timeoutMs = kStepMs)
     {
         QElapsedTimer clock;
         clock.start();
@@ -111,7 +100,7 @@ class tst_Journey : public QObject
         for (;;) {
             shot = m_x.screenshot();
             last = shot.isNull() ? QStringLiteral("no screenshot") : fault(shot);
-            if (last.isEmpty() || clock.elapsed() > kStepMs)
+            if (last.isEmpty() || clock.elapsed() > timeoutMs)
                 break;
             QTest::qWait(200);
         }
@@ -119,6 +108,13 @@ class tst_Journey : public QObject
         if (!keep.isEmpty())
             shot.save(keep + QStringLiteral("/%1-%2.png").arg(QTest::currentTestFunction(), name));
         return last;
+    }
+
+    QString waitFor(QString (tst_Journey::*fault)(const QImage&) const, const char* name,
+                    int timeoutMs = kStepMs)
+    {
+        return waitForShot([=](const QImage& shot) { return (this->*fault)(shot); }, name,
+                           timeoutMs);
     }
 
     // The LED discs of the two modules show the chosen colour, the other strips do not, and
@@ -139,6 +135,12 @@ class tst_Journey : public QObject
         return near > 300 ? QString() : QStringLiteral("preview: %1 pixels").arg(near);
     }
 
+    // The loading view shades the whole window; the logo shows white once it is gone.
+    QString loadingFault(const QImage& shot) const
+    {
+        const QRect logo = m_layout->rectOf(m_layout->frame()->label_Logo);
+        return Pixels::brightest(shot, logo) > 200 ? QString() : QStringLiteral("loading");
+    }
     QString germanMenuFault(const QImage& shot) const
     {
         const QRect menu = m_layout->rectOf(m_layout->frame()->btn_Noti);
@@ -205,7 +207,7 @@ private slots:
         QVERIFY(servicePid() < 0);
         startPanel();
         const QImage loading = m_x.screenshot();
-        QVERIFY(waitForLoaded());
+        QCOMPARE(waitFor(&tst_Journey::loadingFault, "loaded", kStartMs), QString());
         // The panel launched the service: the library reaches it and sees the simulated modules.
         QVERIFY(servicePid() > 0);
         m_api.SharedDLL_init();
@@ -250,8 +252,7 @@ private slots:
                                      m_api.GetValueLightMode(1) == kStatic,
                                  kStepMs);
         checkState();
-        QCOMPARE(waitForShot([this](const QImage& s) { return litModulesFault(s); }, "lit"),
-                 QString());
+        QCOMPARE(waitFor(&tst_Journey::litModulesFault, "lit"), QString());
     }
 
     void switchesProfileAndBack()
@@ -332,7 +333,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(servicePid() < 0, kStepMs);
 
         startPanel();
-        QVERIFY(waitForLoaded());
+        QCOMPARE(waitFor(&tst_Journey::loadingFault, "loaded", kStartMs), QString());
         QTRY_VERIFY_WITH_TIMEOUT(servicePid() > 0 && servicePid() != service, kStartMs);
         // The library reconnects to the new service and mirrors its state.
         const quint32 stamp = m_api.GetValueHWData().updateTime;
@@ -344,11 +345,9 @@ private slots:
         QCOMPARE(m_api.GetSettingValue().languageIndex, 3);
 
         // The panel shows them: German menu, the two modules lit in the chosen colour.
-        QCOMPARE(waitForShot([this](const QImage& s) { return germanMenuFault(s); }, "restart"),
-                 QString());
+        QCOMPARE(waitFor(&tst_Journey::germanMenuFault, "restart"), QString());
         click(m_layout->frame()->btn_Lighting);
-        QCOMPARE(waitForShot([this](const QImage& s) { return litModulesFault(s); }, "lit"),
-                 QString());
+        QCOMPARE(waitFor(&tst_Journey::litModulesFault, "lit"), QString());
     }
 
     // Without QT_LOGGING_RULES every page stays under a line of standard error a second; the
@@ -383,9 +382,8 @@ private slots:
         german.insert("LANG", "de_DE.UTF-8");
         german.insert("XDG_CONFIG_HOME", config);
         startPanel({}, german);
-        QVERIFY(waitForLoaded());
-        QCOMPARE(waitForShot([this](const QImage& s) { return germanMenuFault(s); }, "german"),
-                 QString());
+        QCOMPARE(waitFor(&tst_Journey::loadingFault, "loaded", kStartMs), QString());
+        QCOMPARE(waitFor(&tst_Journey::germanMenuFault, "german"), QString());
         closeByWindowManager();
         stopService();
         QFile state(config + "/norvalex/control-state.json");
