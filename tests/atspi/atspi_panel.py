@@ -84,7 +84,7 @@ def main():
         started.append(subprocess.Popen([REGISTRY], stderr=subprocess.DEVNULL))
         time.sleep(0.5)
         started.append(subprocess.Popen([panel], stdout=subprocess.DEVNULL,
-                                        stderr=subprocess.DEVNULL, start_new_session=True))
+                                        stderr=subprocess.DEVNULL))
 
         desktop = pyatspi.Registry.getDesktop(0)
         app = wait_for("the panel on the accessibility bus", lambda: next(
@@ -121,13 +121,10 @@ def main():
         return 0
     finally:
         for process in reversed(started):
+            process.terminate()
             try:
-                if process is started[-1]:
-                    os.killpg(process.pid, 15)
-                else:
-                    process.terminate()
                 process.wait(timeout=10)
-            except Exception:
+            except subprocess.TimeoutExpired:
                 process.kill()
         # The panel started the control service detached, holding its lock in our runtime
         # directory.

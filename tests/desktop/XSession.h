@@ -13,10 +13,7 @@
 class XSession
 {
 public:
-    XSession() = default;
     ~XSession();
-    XSession(const XSession&) = delete;
-    XSession& operator=(const XSession&) = delete;
 
     // Starts Xvfb, connects to it and exports DISPLAY, so that every process started later
     // (the panel, the tools) runs on it.
@@ -25,7 +22,6 @@ public:
     // Waits for a viewable window whose title is exactly `title`; it becomes the window that
     // input and screenshots go to. 0 when none showed in time.
     unsigned long waitForWindow(const QByteArray& title, int timeoutMs);
-    unsigned long window() const { return m_window; }
 
     // WM_HINTS asks the window manager to map the window iconic (minimised).
     bool startsIconic() const;

@@ -49,58 +49,45 @@ class TestLightingControls : public QObject
     Q_OBJECT
 
 private slots:
-    // In RGB mode a click selects one LED, in single-colour and off mode the whole module; a
-    // colour lands on the selection while the slot button is checked, and only then.
-    void stripClickThenColour_data()
-    {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<Colors>("shown");
-        QTest::addColumn<Colors>("coloured");
-        QTest::addColumn<COLORREF>("single");
-        const Colors led2Blue{Green, Green, Blue, Green, Green, Green, Green, Green};
-        QTest::newRow("rgb") << 0 << Colors(8, Green) << led2Blue << Red;
-        QTest::newRow("single colour") << 1 << Colors(8, Red) << Colors(8, Blue) << Blue;
-        QTest::newRow("off") << 2 << Colors(8, 0x646464) << Colors(8, 0x646464) << Red;
-    }
-
+    // In RGB mode a click selects one LED, in single colour the whole module; a colour lands
+    // on the selection while the slot button is checked, and only then. (Effect modes show the
+    // LEDs grey: tst_accessibility reads that in their names.)
     void stripClickThenColour()
     {
-        QFETCH(int, mode);
-        QFETCH(Colors, shown);
-        QFETCH(Colors, coloured);
-        QFETCH(COLORREF, single);
-        Memory_RGB_View strip;
-        strip.setSlotNumber(Slot);
-        strip.setDisable(true);
-        strip.setLEDNumber(8);
-        strip.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&strip));
-        strip.slot_ChangeColorMode(Slot, mode);
-        QSignalSpy selected(&strip, &Memory_RGB_View::SelectMemSlot);
-        QTest::mouseClick(strip.btn_Led[2], Qt::LeftButton);
-        for (int i = 0; i < Memory_RGB_View::LedCount; ++i)
-            QCOMPARE(strip.btn_Led[i]->isChecked(), mode != 0 || i == 2);
-        QVERIFY(strip.btn_MemorySlot->isChecked());
-        QCOMPARE(shownColors(strip), shown);
-        QCOMPARE(selected.count(), 1);
-        QCOMPARE(selected.at(0).at(0).toInt(), Slot);
+        for (const int mode : {0, 1}) {
+            Memory_RGB_View strip;
+            strip.setSlotNumber(Slot);
+            strip.setDisable(true);
+            strip.setLEDNumber(8);
+            strip.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&strip));
+            strip.slot_ChangeColorMode(Slot, mode);
+            QSignalSpy selected(&strip, &Memory_RGB_View::SelectMemSlot);
+            QTest::mouseClick(strip.btn_Led[2], Qt::LeftButton);
+            for (int i = 0; i < Memory_RGB_View::LedCount; ++i)
+                QCOMPARE(strip.btn_Led[i]->isChecked(), mode == 1 || i == 2);
+            QVERIFY(strip.btn_MemorySlot->isChecked());
+            QCOMPARE(shownColors(strip), Colors(8, mode == 1 ? Red : Green));
+            QCOMPARE(selected.count(), 1);
+            QCOMPARE(selected.at(0).at(0).toInt(), Slot);
 
-        strip.pressRGB(Blue);
-        const Colors stored = storedColors(strip);
-        QCOMPARE(stored, mode == 0 ? coloured : Colors(8, Green));
-        QCOMPARE(strip.singleColor, single);
-        QCOMPARE(shownColors(strip), coloured);
+            strip.pressRGB(Blue);
+            Colors coloured(8, mode == 1 ? Blue : Green);
+            coloured[2] = Blue;
+            QCOMPARE(storedColors(strip), mode == 1 ? Colors(8, Green) : coloured);
+            QCOMPARE(strip.singleColor, mode == 1 ? Blue : Red);
+            QCOMPARE(shownColors(strip), coloured);
 
-        // A second click deselects the module; a colour then changes nothing, not even on a
-        // checked LED.
-        QTest::mouseClick(strip.btn_Led[2], Qt::LeftButton);
-        QVERIFY(!strip.btn_MemorySlot->isChecked() && !strip.btn_Led[2]->isChecked());
-        QCOMPARE(selected.count(), 2);
-        strip.btn_Led[1]->setChecked(true);
-        strip.pressRGB(0x123456);
-        QCOMPARE(storedColors(strip), stored);
-        QCOMPARE(strip.singleColor, single);
-        QCOMPARE(shownColors(strip), coloured);
+            // A second click deselects the module; a colour then changes nothing, not even on a
+            // checked LED.
+            QTest::mouseClick(strip.btn_Led[2], Qt::LeftButton);
+            QVERIFY(!strip.btn_MemorySlot->isChecked() && !strip.btn_Led[2]->isChecked());
+            QCOMPARE(selected.count(), 2);
+            strip.btn_Led[1]->setChecked(true);
+            strip.pressRGB(0x123456);
+            QCOMPARE(shownColors(strip), coloured);
+            QCOMPARE(strip.singleColor, mode == 1 ? Blue : Red);
+        }
     }
 
     // By keyboard the highlight walks the columns of five and stops at the ends, an unlisted
