@@ -32,18 +32,6 @@ Window findTopLevel(Display* display, const QByteArray& title)
     return found;
 }
 
-// Runs xdotool with space-separated arguments.
-bool xdotool(const QString& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' ')));
-    const bool ok = process.waitForFinished(30000) &&
-                    process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    if (!ok)
-        qWarning() << "xdotool" << arguments << process.readAllStandardError();
-    return ok;
-}
-
 } // namespace
 
 XSession::~XSession()
@@ -110,14 +98,20 @@ void XSession::sendDeleteWindow() const
     XFlush(m_display);
 }
 
+bool XSession::xdotool(const QString& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' ')));
+    const bool ok = process.waitForFinished(30000) &&
+                    process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    if (!ok)
+        qWarning() << "xdotool" << arguments << process.readAllStandardError();
+    return ok;
+}
+
 QString XSession::moveTo(QPoint at) const
 {
     return QStringLiteral("mousemove --window %1 %2 %3").arg(m_window).arg(at.x()).arg(at.y());
-}
-
-bool XSession::click(QPoint at) const
-{
-    return xdotool(moveTo(at) + QStringLiteral(" click 1"));
 }
 
 bool XSession::drag(QPoint from, QPoint to, int steps) const
@@ -126,26 +120,6 @@ bool XSession::drag(QPoint from, QPoint to, int steps) const
     for (int step = 1; step <= steps; ++step)
         args += QStringLiteral(" sleep 0.05 ") + moveTo(from + (to - from) * step / steps);
     return xdotool(args + QStringLiteral(" sleep 0.1 mouseup 1"));
-}
-
-bool XSession::focus() const
-{
-    return xdotool(QStringLiteral("windowfocus --sync %1").arg(m_window));
-}
-
-bool XSession::keys(const QString& names) const
-{
-    return xdotool(QStringLiteral("key --delay 30 ") + names);
-}
-
-bool XSession::type(const QString& text) const
-{
-    return xdotool(QStringLiteral("type --delay 30 ") + text);
-}
-
-bool XSession::clearField(int length) const
-{
-    return keys(QStringLiteral("End") + QStringLiteral(" BackSpace").repeated(length));
 }
 
 QImage XSession::screenshot() const

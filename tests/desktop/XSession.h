@@ -30,20 +30,22 @@ public:
 
     // Pointer input in window coordinates; a drag moves in steps with short pauses so that the
     // toolkit sees the intermediate positions.
-    bool click(QPoint at) const;
+    bool click(QPoint at) const { return xdotool(moveTo(at) + QStringLiteral(" click 1")); }
     bool drag(QPoint from, QPoint to, int steps = 8) const;
     // Keyboard input goes to the window holding the X input focus; key names separated by
     // spaces, text without spaces.
-    bool focus() const;
-    bool keys(const QString& names) const;
-    bool type(const QString& text) const;
+    bool focus() const { return xdotool(QStringLiteral("windowfocus --sync %1").arg(m_window)); }
+    bool keys(const QString& names) const { return xdotool("key --delay 30 " + names); }
+    bool type(const QString& text) const { return xdotool("type --delay 30 " + text); }
     // Empties the focused text field the way a user does, from its end.
-    bool clearField(int length = 6) const;
+    bool clearField() const { return keys("End" + QStringLiteral(" BackSpace").repeated(6)); }
 
     // The window's pixels as the X server holds them; null on failure.
     QImage screenshot() const;
 
 private:
+    // Runs xdotool with space-separated arguments.
+    static bool xdotool(const QString& arguments);
     QString moveTo(QPoint at) const;
 
     QProcess m_server;

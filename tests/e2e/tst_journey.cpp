@@ -38,6 +38,7 @@ class tst_Journey : public QObject
     LightingApi m_api;
     std::unique_ptr<PanelLayout> m_layout;
     QImage m_germanMenu;
+    QTemporaryDir m_probeRuntime; // private to its owner, as a runtime directory must be
 
     qint64 servicePid() const
     {
@@ -183,11 +184,7 @@ private slots:
         qputenv("XDG_DATA_HOME", QFile::encodeName(root + "/data"));
         // The off-screen frame listens for messages under the panel's title: in a runtime
         // directory of its own, so that it never answers for the real panel.
-        const QString probeRuntime = root + "/probe-runtime";
-        QVERIFY(QDir().mkpath(probeRuntime));
-        QFile::setPermissions(probeRuntime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                QFileDevice::ExeOwner);
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(probeRuntime));
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_probeRuntime.path()));
         m_layout = std::make_unique<PanelLayout>(kModules, kLeds);
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(TestEnvironment::runtimeDir()));
         QString error;

@@ -70,9 +70,9 @@ struct Scene {
     void fill(int entry, int step)
     {
         for (int k = 0; k < Widget_Preview::MaxLeds; ++k)
-            colors[entry][k] = COLORREF((step * 71 + k * 29) % 256) |
-                               COLORREF((step * 13 + k * 97) % 256) << 8 |
-                               COLORREF((step * 43 + entry * 61) % 256) << 16;
+            colors[entry][k] = COLORREF((37 * (entry + step) + 11 * k) % 256) |
+                               COLORREF((91 * k + 13 * entry + 7 * step) % 256) << 8 |
+                               COLORREF((53 * entry * k + 29 * step) % 256) << 16;
     }
     // Lets the queued repaints happen and forgets what they painted.
     void settle()
@@ -97,10 +97,7 @@ private slots:
     {
         Scene scene;
         for (int entry = 0; entry < 8; ++entry)
-            for (int k = 0; k < Widget_Preview::MaxLeds; ++k)
-                scene.colors[entry][k] = COLORREF((37 * entry + 11 * k) % 256) |
-                                         COLORREF((91 * k + 13 * entry) % 256) << 8 |
-                                         COLORREF((53 * entry * k) % 256) << 16;
+            scene.fill(entry, 0);
         scene.send();
         const QImage reference(
             QStringLiteral(NX_SOURCE_DIR "/tests/widgets/data/preview_page.png"));
