@@ -373,6 +373,8 @@ private slots:
     // German choice showed.
     void firstStartInTheDesktopLanguage()
     {
+        m_panel.kill(); // left running only by a failed step
+        m_panel.waitForFinished(kStepMs);
         stopService();
         const QString config = TestEnvironment::root().path() + "/german-config";
         QProcessEnvironment german;
