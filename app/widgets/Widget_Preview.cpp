@@ -164,8 +164,10 @@ void Widget_Preview::updateChangedBars()
         if (changed & (1u << i))
             region += barArea(i, barX(slotIndex[i], slotNum));
     }
+    // Painted at once: a frame arrives as an event of its own, so there is nothing to merge with,
+    // and a posted update would cost the event loop another turn.
     if (!region.isEmpty())
-        update(region);
+        repaint(region);
 }
 
 void Widget_Preview::showEvent(QShowEvent* event)
