@@ -2,7 +2,6 @@
 
 #include <cstring>
 #include <mutex>
-#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -25,9 +24,8 @@ struct Module {
 
 struct State {
     std::mutex mutex;
-    // One "Name(args)" line per call.
+    // The name of every function called.
     std::vector<std::string> calls;
-    std::string answer;
     HWData hw{};
     NotiEventData noti{};
     SettingData setting{};
@@ -43,88 +41,57 @@ State& state()
     return s;
 }
 
-template <typename... Args> std::string join(const Args&... args)
-{
-    std::ostringstream out;
-    bool first = true;
-    ((out << (first ? "" : ",") << args, first = false), ...);
-    return out.str();
-}
-
-void record(const char* name, const std::string& args)
+void record(const char* name)
 {
     std::lock_guard<std::mutex> lock(state().mutex);
-    state().calls.push_back(std::string(name) + "(" + args + ")");
+    state().calls.push_back(name);
 }
 
 // The slot's module; a slot out of range gets slot 0's.
 Module& module(const char* name, int32_t slot)
 {
-    record(name, join(slot));
+    record(name);
     return state().modules[slot >= 0 && slot < NX_MODULE_COUNT ? slot : 0];
-}
-
-// The arguments of a recorded call of `function`, or nothing when the line is another's.
-bool argumentsOf(const std::string& call, const char* function, std::string* args)
-{
-    const std::size_t length = std::strlen(function);
-    if (call.compare(0, length, function) != 0 || call.size() <= length || call[length] != '(')
-        return false;
-    *args = call.substr(length + 1, call.size() - length - 2);
-    return true;
 }
 
 } // namespace
 
 NX_EXPORT void SharedDLL_init(void)
 {
-    record("SharedDLL_init", "");
+    record("SharedDLL_init");
 }
 
 NX_EXPORT void RegisterUIEventLightModeFunc(UIEventLightModeFunc callback)
 {
-    record("RegisterUIEventLightModeFunc", callback ? "set" : "null");
+    record("RegisterUIEventLightModeFunc");
     state().lightModeCallback = callback;
 }
 
 NX_EXPORT void RegisterUIPreviewEventFunc(UIPreviewEventFunc callback)
 {
-    record("RegisterUIPreviewEventFunc", callback ? "set" : "null");
+    record("RegisterUIPreviewEventFunc");
     state().previewCallback = callback;
 }
 
 NX_EXPORT int32_t GetValueMemorySlotNumber(int32_t index)
 {
-    record("GetValueMemorySlotNumber", join(index));
+    record("GetValueMemorySlotNumber");
     return index >= 0 && index < NX_MODULE_COUNT ? index : -1;
 }
 
-NX_EXPORT void SetSlotNumber(int32_t count, int32_t* order)
+NX_EXPORT void SetSlotNumber(int32_t, int32_t*)
 {
-    std::string args = join(count);
-    for (int i = 0; order && i < count && i < NX_MODULE_COUNT; ++i)
-        args += "," + std::to_string(order[i]);
-    record("SetSlotNumber", args);
+    record("SetSlotNumber");
 }
 
-NX_EXPORT void SetValueLighting(int32_t slot, int32_t lightMode, int32_t colorMode,
-                                int32_t lightSpeed, bool turnOff)
+NX_EXPORT void SetValueLighting(int32_t, int32_t, int32_t, int32_t, bool)
 {
-    record("SetValueLighting", join(slot, lightMode, colorMode, lightSpeed, int(turnOff)));
+    record("SetValueLighting");
 }
 
-NX_EXPORT void SetValueRGB(int32_t slot, COLORREF* rgb, float* bright, COLORREF singleRGB,
-                           float singleBright, int32_t count)
+NX_EXPORT void SetValueRGB(int32_t, COLORREF*, float*, COLORREF, float, int32_t)
 {
-    std::ostringstream out;
-    out << slot << ",rgb";
-    for (int i = 0; rgb && i < count && i < NX_LED_ARRAY; ++i)
-        out << (i ? ":" : "=") << std::hex << rgb[i] << std::dec;
-    out << ",bright";
-    for (int i = 0; bright && i < count && i < NX_LED_ARRAY; ++i)
-        out << (i ? ":" : "=") << bright[i];
-    out << "," << std::hex << singleRGB << std::dec << "," << singleBright << "," << count;
-    record("SetValueRGB", out.str());
+    record("SetValueRGB");
 }
 
 // The per-module getters: each records its call and answers with its field.
@@ -145,45 +112,43 @@ NX_MODULE_GETTER(COLORREF*, GetValueSoftwareRGB, software)
 
 NX_EXPORT HWData GetValueHWData(void)
 {
-    record("GetValueHWData", "");
+    record("GetValueHWData");
     return state().hw;
 }
 
 NX_EXPORT NotiEventData GetNotiEvent(void)
 {
-    record("GetNotiEvent", "");
+    record("GetNotiEvent");
     return state().noti;
 }
 
 NX_EXPORT void SetNotiEvent(NotiEventData data)
 {
-    record("SetNotiEvent", join(data.reserved0, data.changedItem, int(data.loadingSwitch),
-                                data.loadingValue, data.loadingColor, data.reserved20));
+    record("SetNotiEvent");
     state().noti = data;
 }
 
 NX_EXPORT SettingData GetSettingValue(void)
 {
-    record("GetSettingValue", "");
+    record("GetSettingValue");
     return state().setting;
 }
 
 NX_EXPORT void SetSettingValue(SettingData data)
 {
-    record("SetSettingValue", join(data.languageIndex, int(data.autoUpdate), int(data.autoRun),
-                                   int(data.currentLocation), int(data.reserved7)));
+    record("SetSettingValue");
     state().setting = data;
 }
 
 NX_EXPORT int32_t GetProfile(void)
 {
-    record("GetProfile", "");
+    record("GetProfile");
     return state().profile;
 }
 
 NX_EXPORT void SetProfile(int32_t profile)
 {
-    record("SetProfile", join(profile));
+    record("SetProfile");
     state().profile = profile;
 }
 
@@ -237,32 +202,10 @@ COLORREF* Double_softwareRGB(int32_t slot)
 int Double_callCount(const char* function)
 {
     std::lock_guard<std::mutex> lock(state().mutex);
-    std::string args;
     int count = 0;
     for (const std::string& call : state().calls)
-        count += argumentsOf(call, function, &args) ? 1 : 0;
+        count += call == function ? 1 : 0;
     return count;
-}
-
-const char* Double_calls(void)
-{
-    std::lock_guard<std::mutex> lock(state().mutex);
-    state().answer.clear();
-    for (const std::string& call : state().calls)
-        state().answer += call + "\n";
-    return state().answer.c_str();
-}
-
-const char* Double_lastCall(const char* function)
-{
-    std::lock_guard<std::mutex> lock(state().mutex);
-    std::string args;
-    state().answer.clear();
-    for (const std::string& call : state().calls) {
-        if (argumentsOf(call, function, &args))
-            state().answer = args;
-    }
-    return state().answer.c_str();
 }
 
 SettingData Double_lastSetting(void)

@@ -22,10 +22,6 @@ NX_DOUBLE_EXPORT COLORREF* Double_softwareRGB(int32_t slot);
 
 // Number of calls of one function since the last reset.
 NX_DOUBLE_EXPORT int Double_callCount(const char* function);
-// Every call since the last reset, one line each: "Name(arg,arg,...)".
-NX_DOUBLE_EXPORT const char* Double_calls(void);
-// The arguments of the latest call of one function, as in Double_calls, or "" when none.
-NX_DOUBLE_EXPORT const char* Double_lastCall(const char* function);
 NX_DOUBLE_EXPORT SettingData Double_lastSetting(void);
 NX_DOUBLE_EXPORT NotiEventData Double_lastNotiEvent(void);
 
