@@ -61,8 +61,6 @@ private slots:
     void cleanup() { page.reset(); }
 
     void languageList();
-    void receivedLanguage_data();
-    void receivedLanguage();
     void switchesAndLocationRow();
 
 private:
@@ -75,64 +73,36 @@ private:
     QTranslator english;
 };
 
+// A received record is shown, not sent back, and leaves the process language alone; an index
+// out of range keeps the button's text and is sent back as received. A click outside closes the
+// list without a choice; an entry is sent with the rest of the record.
 void TestSettingView::languageList()
 {
     QSignalSpy spy(page.get(), &Setting_View::changeSettingData);
-    page->setSettingData(record(5, false, true, true));
-    // A received record is shown, not sent back, and leaves the process language alone.
+    auto* button = child<QPushButton>("btn_Language");
+    page->setSettingData(record(4, false, true, true));
+    page->setSettingData(record(12, false, true, true));
+    QCOMPARE(button->text(), QStringLiteral("Français"));
     QCOMPARE(spy.count(), 0);
     QCOMPARE(currentLanguage, 0);
+    page->slot_AutoRun_Switch(false);
+    QVERIFY(sent(spy, 0, record(12, false, false, true)));
 
-    auto* button = child<QPushButton>("btn_Language");
     auto* list = child<Widget_Language>("widget_Language");
-    QSignalSpy selected(list, &Widget_Language::selectLanguage);
     QTest::mouseClick(button, Qt::LeftButton);
     QTRY_VERIFY(list->isVisible() && list->hasFocus());
     QTest::mouseClick(page.get(), Qt::LeftButton, Qt::NoModifier, QPoint(700, 480));
     QTRY_VERIFY(list->isHidden());
-    QCOMPARE(spy.count(), 0);
+    QCOMPARE(spy.count(), 1);
 
-    // Entry i selects language i, sent with the rest of the record; the list closes and the
-    // button is relabelled at once.
     const int last = Widget_Language::kLanguageCount - 1;
-    const std::pair<int, const char*> entries[] = {{0, "English"}, {3, "Deutsch"}, {last, nullptr}};
-    for (const auto& [i, name] : entries) {
-        QTest::mouseClick(button, Qt::LeftButton);
-        QTRY_VERIFY(list->isVisible() && list->hasFocus());
-        QTest::mouseClick(list->findChild<QPushButton*>(QString::number(i)), Qt::LeftButton);
-        QCOMPARE(selected.last().at(0).toInt(), i);
-        QVERIFY(sent(spy, spy.count() - 1, record(i, false, true, true)));
-        QCOMPARE(currentLanguage, i);
-        if (name)
-            QCOMPARE(button->text(), QString::fromUtf8(name));
-        QTRY_VERIFY(list->isHidden());
-    }
-    QCOMPARE(spy.count(), 3);
-}
-
-void TestSettingView::receivedLanguage_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("en") << 0 << QStringLiteral("English");
-    QTest::newRow("fr") << 4 << QStringLiteral("Français");
-    QTest::newRow("12 keeps the text") << 12 << QStringLiteral("Français");
-    QTest::newRow("-1 keeps the text") << -1 << QStringLiteral("Français");
-}
-
-void TestSettingView::receivedLanguage()
-{
-    QFETCH(int, index);
-
-    page->setSettingData(record(4, true, true, false));
-    page->setSettingData(record(index, true, true, false));
-    QTEST(child<QPushButton>("btn_Language")->text(), "name");
-
-    // The index is kept as received and sent back with the next change.
-    QSignalSpy spy(page.get(), &Setting_View::changeSettingData);
-    page->slot_AutoRun_Switch(false);
-    QVERIFY(sent(spy, 0, record(index, true, false, false)));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_VERIFY(list->isVisible() && list->hasFocus());
+    QTest::mouseClick(list->findChild<QPushButton*>(QString::number(last)), Qt::LeftButton);
+    QCOMPARE(spy.count(), 2);
+    QVERIFY(sent(spy, 1, record(last, false, false, true)));
+    QCOMPARE(currentLanguage, last);
+    QTRY_VERIFY(list->isHidden());
 }
 
 // Each switch sends the whole record with its flag flipped; the location row needs the extended
