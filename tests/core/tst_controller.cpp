@@ -1,7 +1,9 @@
 // The controller against the test double library: the poll with its freshness rule, the first
-// delivery of counts and types, the request/answer roads and the hand-off of library callbacks.
+// delivery of counts and types, the request/answer roads and the hand-off of library callbacks;
+// the loader with no library, a partial one and a full one.
 #include "AppGlobals.h"
 #include "LightingDouble.h"
+#include "LightingLibrary.h"
 #include "Main_View.h"
 #include "Platform.h"
 #include "QXRGBMemory.h"
@@ -18,10 +20,10 @@ namespace {
 
 constexpr quint32 kNow = 1'800'000'000u;
 
-HWData hwWith(int memoryCount, int slotCount, quint32 updateTime)
+// What the library answers: `memoryCount` modules of type "KX44" in `slotCount` slots.
+void setHw(int memoryCount, int slotCount, quint32 updateTime)
 {
-    HWData hw;
-    std::memset(&hw, 0, sizeof hw);
+    HWData& hw = *Double_hw();
     hw.memoryCount = memoryCount;
     hw.slotCount = slotCount;
     hw.updateTime = updateTime;
@@ -29,7 +31,6 @@ HWData hwWith(int memoryCount, int slotCount, quint32 updateTime)
         hw.slotIndex[i] = i < memoryCount ? i : -1;
         std::strcpy(hw.memoryData[i].modelCode, i < memoryCount ? "KX44" : "N/A");
     }
-    return hw;
 }
 
 } // namespace
@@ -42,9 +43,7 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void freshness_data();
-    void freshness();
-    void relaunchesOnceUntilFreshDataReturns();
+    void freshnessAndRelaunch();
     void deliversCountsTypesAndLanguageUntilValid();
     void passesNotificationRecordBackUnchanged();
     void readsLighting();
@@ -52,6 +51,8 @@ private slots:
     void dropsPreviewFramesThatNothingShows();
     void locationDialogAnswersOncePerChoice();
     void changesLanguageOnlyForKnownIndexes();
+    void missingAndPartialLibraries();
+    void fullLibraryAnswersAndTurnOffIsOneByte();
 
 private:
     std::unique_ptr<QXRGBMemory> m_controller;
@@ -82,56 +83,29 @@ void tst_Controller::cleanup()
     programStarted = false;
 }
 
-void tst_Controller::freshness_data()
+// Data up to 9 s old is shown; older, from the future or without modules it is replaced by the
+// default record, and the service is relaunched once until fresh data returns.
+void tst_Controller::freshnessAndRelaunch()
 {
-    QTest::addColumn<int>("memoryCount");
-    QTest::addColumn<quint32>("updateTime");
-    QTest::addColumn<bool>("fresh");
-    QTest::newRow("9 s old") << 4 << kNow - 9 << true;
-    QTest::newRow("10 s old") << 4 << kNow - 10 << false;
-    QTest::newRow("1 s in the future") << 4 << kNow + 1 << false;
-    QTest::newRow("no module counted") << 0 << kNow << false;
-}
-
-void tst_Controller::freshness()
-{
-    QFETCH(int, memoryCount);
-    QFETCH(quint32, updateTime);
-    QFETCH(bool, fresh);
-
-    const HWData hw = hwWith(memoryCount, 4, updateTime);
-    Double_setHWData(&hw);
     // The record is not a registered meta-type, so it is read through a direct connection.
-    QList<HWData> shown;
+    int shown = 0;
     connect(
-        m_controller.get(), &QXRGBMemory::setHWData, this, [&shown](HWData d) { shown << d; },
-        Qt::DirectConnection);
-    m_controller->requestUpdateData();
-    QCOMPARE(shown.size(), 1);
-    // Stale data is replaced by the default record.
-    QCOMPARE(shown.at(0).memoryCount, fresh ? memoryCount : -1);
-    QCOMPARE(m_controller->isRestartTried(), !fresh);
-    QCOMPARE(m_launches, fresh ? 0 : 1);
-}
-
-void tst_Controller::relaunchesOnceUntilFreshDataReturns()
-{
-    HWData stale = hwWith(4, 4, kNow - 30);
-    Double_setHWData(&stale);
-    for (int tick = 0; tick < 5; ++tick)
+        m_controller.get(), &QXRGBMemory::setHWData, this,
+        [&shown](HWData d) { shown = d.memoryCount; }, Qt::DirectConnection);
+    const struct {
+        int count;
+        quint32 time;
+        int launches;
+    } ticks[] = {{4, kNow - 9, 0}, {4, kNow - 10, 1}, {4, kNow - 30, 1}, {4, kNow, 1},
+                 {4, kNow + 1, 2}, {4, kNow, 2},      {0, kNow, 3}};
+    for (const auto& tick : ticks) {
+        setHw(tick.count, 4, tick.time);
         m_controller->requestUpdateData();
-    QCOMPARE(m_launches, 1);
-
-    const HWData fresh = hwWith(4, 4, kNow - 1);
-    Double_setHWData(&fresh);
-    m_controller->requestUpdateData();
-    QVERIFY(!m_controller->isRestartTried());
-    QCOMPARE(m_launches, 1);
-
-    Double_setHWData(&stale);
-    m_controller->requestUpdateData();
-    m_controller->requestUpdateData();
-    QCOMPARE(m_launches, 2);
+        const bool fresh = tick.count > 0 && tick.time <= kNow && tick.time + 9 >= kNow;
+        QCOMPARE(shown, fresh ? tick.count : -1);
+        QCOMPARE(m_controller->isRestartTried(), !fresh);
+        QCOMPARE(m_launches, tick.launches);
+    }
 }
 
 void tst_Controller::deliversCountsTypesAndLanguageUntilValid()
@@ -141,17 +115,15 @@ void tst_Controller::deliversCountsTypesAndLanguageUntilValid()
     QSignalSpy language(m_controller.get(), &QXRGBMemory::updateLanguage);
 
     // Counts unknown: no slot numbers, but the language is applied on every tick.
-    HWData unknown = hwWith(-1, -1, kNow);
-    Double_setHWData(&unknown);
+    setHw(-1, -1, kNow);
     for (int tick = 0; tick < 3; ++tick)
         m_controller->requestUpdateData();
     QCOMPARE(slotNum.count(), 0);
     QCOMPARE(language.count(), 3);
     QVERIFY(!m_controller->isInitDone());
 
-    HWData valid = hwWith(2, 4, kNow);
-    std::strcpy(valid.memoryData[1].modelCode, "KZ71-B");
-    Double_setHWData(&valid);
+    setHw(2, 4, kNow);
+    std::strcpy(Double_hw()->memoryData[1].modelCode, "KZ71-B");
     m_controller->requestUpdateData();
     m_controller->requestUpdateData();
     QCOMPARE(slotNum.count(), 1);
@@ -163,8 +135,7 @@ void tst_Controller::deliversCountsTypesAndLanguageUntilValid()
     QVERIFY(m_controller->isInitDone());
 
     // A count that drops to 0 makes the next tick deliver everything again.
-    HWData dropped = hwWith(0, 4, kNow);
-    Double_setHWData(&dropped);
+    setHw(0, 4, kNow);
     m_controller->requestUpdateData();
     QVERIFY(!m_controller->isInitDone());
     m_controller->requestUpdateData();
@@ -182,7 +153,7 @@ void tst_Controller::passesNotificationRecordBackUnchanged()
     given.reserved20 = -77;
     given.changedItem = 2;
     given.loadingSwitch = true;
-    Double_setNotiEvent(&given);
+    *Double_noti() = given;
 
     // A page that sends back what it was given.
     Main_View* frame = m_controller->mainView();
@@ -190,7 +161,7 @@ void tst_Controller::passesNotificationRecordBackUnchanged()
         frame, &Main_View::setNotiData, frame,
         [frame](NotiEventData d) { emit frame->sendNotiData(d); }, Qt::DirectConnection);
     emit frame->requestNotiData();
-    const NotiEventData back = Double_lastNotiEvent();
+    const NotiEventData back = *Double_noti();
     QCOMPARE(Double_callCount("SetNotiEvent"), 1);
     QCOMPARE(std::memcmp(&back, &given, sizeof back), 0);
 }
@@ -206,7 +177,6 @@ void tst_Controller::readsLighting()
 
 void tst_Controller::handsCallbacksToGuiThread()
 {
-    QVERIFY(Double_hasCallbacks());
     // With the Settings page visible a refresh re-reads the settings.
     m_controller->mainView()->slot_show_Setting();
     const int before = Double_callCount("GetSettingValue");
@@ -265,7 +235,7 @@ void tst_Controller::dropsPreviewFramesThatNothingShows()
 
 void tst_Controller::locationDialogAnswersOncePerChoice()
 {
-    Double_setSetting(SettingData{0, true, true, false, 0x5A});
+    *Double_setting() = SettingData{0, true, true, false, 0x5A};
     Main_View* frame = m_controller->mainView();
     emit frame->changeLightMode(0, 31, 2, 2, false);
     emit frame->changeLightMode(1, 31, 2, 2, false);
@@ -275,7 +245,7 @@ void tst_Controller::locationDialogAnswersOncePerChoice()
 
     emit m_controller->locationPolicy()->sendPushOK(true);
     QTRY_COMPARE(Double_callCount("SetSettingValue"), 2);
-    const SettingData stored = Double_lastSetting();
+    const SettingData stored = *Double_setting();
     QVERIFY(stored.currentLocation && stored.autoRun && stored.reserved7 == 0x5A);
 
     // With consent given, mode 31 opens nothing more.
@@ -289,7 +259,7 @@ void tst_Controller::changesLanguageOnlyForKnownIndexes()
     QSignalSpy language(m_controller.get(), &QXRGBMemory::updateLanguage);
     m_controller->changeSettingData(SettingData{3, true, false, false, 0});
     QCOMPARE(currentLanguage, 3);
-    QCOMPARE(Double_lastSetting().languageIndex, 3);
+    QCOMPARE(Double_setting()->languageIndex, 3);
     QCOMPARE(language.count(), 1);
     QTranslator* german = m_controller->translator();
     QVERIFY(german && !german->isEmpty());
@@ -307,6 +277,44 @@ void tst_Controller::changesLanguageOnlyForKnownIndexes()
     QVERIFY(m_controller->translator() != german);
     QCOMPARE(currentLanguage, 3);
     m_controller->changeLanguage(0);
+}
+
+// Without a library nothing crashes and every answer is the default "N/A" record with unknown
+// counts; a partial library answers with what it has and defaults for the rest.
+void tst_Controller::missingAndPartialLibraries()
+{
+    LightingLibrary missing;
+    QVERIFY(!missing.load(QStringLiteral("no-such-directory/NORVALEX_Lighting")));
+    QCOMPARE(missing.missingFunctions().size(), NORVALEX_LIGHTING_FUNCTION_COUNT);
+    missing.SharedDLL_init();
+    missing.SetValueLighting(0, 6, 1, 2, true);
+    const HWData hw = missing.GetValueHWData();
+    QVERIFY(hw.memoryCount == -1 && hw.updateTime == 0 && hw.memoryData[3].ledNum == -1);
+    QCOMPARE(QByteArray(hw.memoryData[3].modelCode), QByteArray("N/A"));
+    // Out-of-range slots fall back to slot 0 instead of reading past the table.
+    QVERIFY(missing.GetValueRGB(8) && missing.GetValueBright(-1));
+
+    LightingLibrary partial;
+    QVERIFY(partial.load(QStringLiteral(NX_PARTIAL_LIBRARY)));
+    QCOMPARE(partial.missingFunctions().size(), NORVALEX_LIGHTING_FUNCTION_COUNT - 3);
+    QVERIFY(partial.missingFunctions().contains(QStringLiteral("SetValueRGB")));
+    QCOMPARE(partial.GetValueLightMode(1), 21);
+    QCOMPARE(partial.GetValueHWData().memoryCount, 3);
+    QCOMPARE(partial.GetValueColorMode(1), 0);
+    partial.SetValueRGB(1, nullptr, nullptr, 0, 1.0f, 8);
+}
+
+void tst_Controller::fullLibraryAnswersAndTurnOffIsOneByte()
+{
+    LightingLibrary library;
+    QVERIFY(library.load(QStringLiteral(NX_DOUBLE_LIBRARY)));
+    QVERIFY(library.missingFunctions().isEmpty());
+    const uint8_t flags[] = {0, 2, 0x80};
+    for (int slot = 0; slot < 3; ++slot) {
+        Double_setLighting(slot, 17, 1, 0, flags[slot]);
+        QCOMPARE(library.GetValueLightMode(slot), 17);
+        QCOMPARE(library.GetValueTurnOff(slot), slot != 0);
+    }
 }
 
 QTEST_MAIN(tst_Controller)

@@ -1,6 +1,5 @@
 #include "LightingDouble.h"
 
-#include <cstring>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -48,29 +47,54 @@ void record(const char* name)
 }
 
 // The slot's module; a slot out of range gets slot 0's.
-Module& module(const char* name, int32_t slot)
+Module& module(int32_t slot)
 {
-    record(name);
     return state().modules[slot >= 0 && slot < NX_MODULE_COUNT ? slot : 0];
 }
 
 } // namespace
 
+// Each function records its call; getters answer with their field, setters store into it.
+#define NX_MODULE_GETTER(Type, Name, field)                                                        \
+    NX_EXPORT Type Name(int32_t slot)                                                              \
+    {                                                                                              \
+        record(#Name);                                                                             \
+        return module(slot).field;                                                                 \
+    }
+#define NX_GETTER(Type, Name, field)                                                               \
+    NX_EXPORT Type Name(void)                                                                      \
+    {                                                                                              \
+        record(#Name);                                                                             \
+        return state().field;                                                                      \
+    }
+#define NX_SETTER(Type, Name, field)                                                               \
+    NX_EXPORT void Name(Type value)                                                                \
+    {                                                                                              \
+        record(#Name);                                                                             \
+        state().field = value;                                                                     \
+    }
+NX_MODULE_GETTER(int32_t, GetValueLightMode, lightMode)
+NX_MODULE_GETTER(int32_t, GetValueColorMode, colorMode)
+NX_MODULE_GETTER(int32_t, GetValueLightSpeed, lightSpeed)
+NX_MODULE_GETTER(uint8_t, GetValueTurnOff, turnOff)
+NX_MODULE_GETTER(COLORREF*, GetValueRGB, rgb)
+NX_MODULE_GETTER(COLORREF, GetValueSingleRGB, singleRGB)
+NX_MODULE_GETTER(float*, GetValueBright, bright)
+NX_MODULE_GETTER(float, GetValueSingleBright, singleBright)
+NX_MODULE_GETTER(COLORREF*, GetValueSoftwareRGB, software)
+NX_GETTER(HWData, GetValueHWData, hw)
+NX_GETTER(NotiEventData, GetNotiEvent, noti)
+NX_GETTER(SettingData, GetSettingValue, setting)
+NX_GETTER(int32_t, GetProfile, profile)
+NX_SETTER(NotiEventData, SetNotiEvent, noti)
+NX_SETTER(SettingData, SetSettingValue, setting)
+NX_SETTER(int32_t, SetProfile, profile)
+NX_SETTER(UIEventLightModeFunc, RegisterUIEventLightModeFunc, lightModeCallback)
+NX_SETTER(UIPreviewEventFunc, RegisterUIPreviewEventFunc, previewCallback)
+
 NX_EXPORT void SharedDLL_init(void)
 {
     record("SharedDLL_init");
-}
-
-NX_EXPORT void RegisterUIEventLightModeFunc(UIEventLightModeFunc callback)
-{
-    record("RegisterUIEventLightModeFunc");
-    state().lightModeCallback = callback;
-}
-
-NX_EXPORT void RegisterUIPreviewEventFunc(UIPreviewEventFunc callback)
-{
-    record("RegisterUIPreviewEventFunc");
-    state().previewCallback = callback;
 }
 
 NX_EXPORT int32_t GetValueMemorySlotNumber(int32_t index)
@@ -94,64 +118,6 @@ NX_EXPORT void SetValueRGB(int32_t, COLORREF*, float*, COLORREF, float, int32_t)
     record("SetValueRGB");
 }
 
-// The per-module getters: each records its call and answers with its field.
-#define NX_MODULE_GETTER(Type, Name, expression)                                                   \
-    NX_EXPORT Type Name(int32_t slot)                                                              \
-    {                                                                                              \
-        return module(#Name, slot).expression;                                                     \
-    }
-NX_MODULE_GETTER(int32_t, GetValueLightMode, lightMode)
-NX_MODULE_GETTER(int32_t, GetValueColorMode, colorMode)
-NX_MODULE_GETTER(int32_t, GetValueLightSpeed, lightSpeed)
-NX_MODULE_GETTER(uint8_t, GetValueTurnOff, turnOff)
-NX_MODULE_GETTER(COLORREF*, GetValueRGB, rgb)
-NX_MODULE_GETTER(COLORREF, GetValueSingleRGB, singleRGB)
-NX_MODULE_GETTER(float*, GetValueBright, bright)
-NX_MODULE_GETTER(float, GetValueSingleBright, singleBright)
-NX_MODULE_GETTER(COLORREF*, GetValueSoftwareRGB, software)
-
-NX_EXPORT HWData GetValueHWData(void)
-{
-    record("GetValueHWData");
-    return state().hw;
-}
-
-NX_EXPORT NotiEventData GetNotiEvent(void)
-{
-    record("GetNotiEvent");
-    return state().noti;
-}
-
-NX_EXPORT void SetNotiEvent(NotiEventData data)
-{
-    record("SetNotiEvent");
-    state().noti = data;
-}
-
-NX_EXPORT SettingData GetSettingValue(void)
-{
-    record("GetSettingValue");
-    return state().setting;
-}
-
-NX_EXPORT void SetSettingValue(SettingData data)
-{
-    record("SetSettingValue");
-    state().setting = data;
-}
-
-NX_EXPORT int32_t GetProfile(void)
-{
-    record("GetProfile");
-    return state().profile;
-}
-
-NX_EXPORT void SetProfile(int32_t profile)
-{
-    record("SetProfile");
-    state().profile = profile;
-}
-
 // --- control side -------------------------------------------------------------------------------
 
 void Double_reset(void)
@@ -159,35 +125,33 @@ void Double_reset(void)
     State& s = state();
     std::lock_guard<std::mutex> lock(s.mutex);
     s.calls.clear();
-    std::memset(&s.hw, 0, sizeof s.hw);
-    std::memset(&s.noti, 0, sizeof s.noti);
-    s.setting = SettingData{0, false, false, false, 0};
+    s.hw = HWData{};
+    s.noti = NotiEventData{};
+    s.setting = SettingData{};
     for (Module& m : s.modules)
         m = Module{};
     s.profile = 0;
 }
 
-void Double_setHWData(const HWData* data)
+HWData* Double_hw(void)
 {
-    state().hw = *data;
+    return &state().hw;
 }
 
-void Double_setNotiEvent(const NotiEventData* data)
+NotiEventData* Double_noti(void)
 {
-    state().noti = *data;
+    return &state().noti;
 }
 
-void Double_setSetting(SettingData data)
+SettingData* Double_setting(void)
 {
-    state().setting = data;
+    return &state().setting;
 }
 
 void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode, int32_t lightSpeed,
                         uint8_t turnOff)
 {
-    if (slot < 0 || slot >= NX_MODULE_COUNT)
-        return;
-    Module& m = state().modules[slot];
+    Module& m = module(slot);
     m.lightMode = lightMode;
     m.colorMode = colorMode;
     m.lightSpeed = lightSpeed;
@@ -196,7 +160,7 @@ void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode, int3
 
 COLORREF* Double_softwareRGB(int32_t slot)
 {
-    return state().modules[slot >= 0 && slot < NX_MODULE_COUNT ? slot : 0].software;
+    return module(slot).software;
 }
 
 int Double_callCount(const char* function)
@@ -206,16 +170,6 @@ int Double_callCount(const char* function)
     for (const std::string& call : state().calls)
         count += call == function ? 1 : 0;
     return count;
-}
-
-SettingData Double_lastSetting(void)
-{
-    return state().setting;
-}
-
-NotiEventData Double_lastNotiEvent(void)
-{
-    return state().noti;
 }
 
 void Double_fireLightModeEvent(int32_t value, int onOwnThread)
@@ -234,9 +188,4 @@ void Double_firePreviewEvent(int onOwnThread)
         std::thread(callback).join();
     else if (callback)
         callback();
-}
-
-int Double_hasCallbacks(void)
-{
-    return state().lightModeCallback && state().previewCallback ? 1 : 0;
 }

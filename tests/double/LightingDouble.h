@@ -13,23 +13,22 @@ extern "C" {
 
 // Forgets every recorded call and restores the default answers.
 NX_DOUBLE_EXPORT void Double_reset(void);
-NX_DOUBLE_EXPORT void Double_setHWData(const HWData* data);
-NX_DOUBLE_EXPORT void Double_setNotiEvent(const NotiEventData* data);
-NX_DOUBLE_EXPORT void Double_setSetting(SettingData data);
+// The records the library answers with and the last ones it was given, for the test to set and
+// read.
+NX_DOUBLE_EXPORT HWData* Double_hw(void);
+NX_DOUBLE_EXPORT NotiEventData* Double_noti(void);
+NX_DOUBLE_EXPORT SettingData* Double_setting(void);
 NX_DOUBLE_EXPORT void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode,
                                          int32_t lightSpeed, uint8_t turnOff);
 NX_DOUBLE_EXPORT COLORREF* Double_softwareRGB(int32_t slot);
 
 // Number of calls of one function since the last reset.
 NX_DOUBLE_EXPORT int Double_callCount(const char* function);
-NX_DOUBLE_EXPORT SettingData Double_lastSetting(void);
-NX_DOUBLE_EXPORT NotiEventData Double_lastNotiEvent(void);
 
 // Raise the registered callbacks, on the calling thread or on a thread of the double's own
 // (joined before returning).
 NX_DOUBLE_EXPORT void Double_fireLightModeEvent(int32_t value, int onOwnThread);
 NX_DOUBLE_EXPORT void Double_firePreviewEvent(int onOwnThread);
-NX_DOUBLE_EXPORT int Double_hasCallbacks(void);
 
 #ifdef __cplusplus
 }
