@@ -4,7 +4,10 @@
 #include "Setting_View.h"
 #include "SwitchButton.h"
 #include "Widget_Language.h"
+#include "Widget_LocationPolicy.h"
 
+#include <QCheckBox>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTranslator>
@@ -35,6 +38,18 @@ bool sent(const QSignalSpy& spy, int index, const SettingData& expected)
     return std::memcmp(&data, &expected, sizeof(SettingData)) == 0;
 }
 
+// Delivers a mouse event for a pointer at `screen` to a widget of `window`, as the window system
+// would: an event the widget ignores travels on to its parent.
+void sendMouse(QWidget* window, QWidget* widget, QEvent::Type type, QPoint screen)
+{
+    const QPoint local = screen - window->pos() - widget->mapTo(window, QPoint(0, 0));
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const Qt::MouseButtons buttons =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(Qt::LeftButton);
+    QMouseEvent event(type, local, screen, button, buttons, Qt::NoModifier);
+    QCoreApplication::instance()->notify(widget, &event);
+}
+
 } // namespace
 
 class TestSettingView : public QObject
@@ -62,6 +77,7 @@ private slots:
 
     void languageList();
     void switchesAndLocationRow();
+    void consentDialog();
 
 private:
     template <typename T = QWidget> T* child(const char* name)
@@ -131,6 +147,46 @@ void TestSettingView::switchesAndLocationRow()
     QVERIFY(child("switch_CurrentLocation")->isHidden() &&
             child("label_CurrentLocation")->isHidden());
     QVERIFY(child("switch_AutoRun")->isVisible());
+}
+
+// The location consent dialog: OK reports whether the box is ticked and closes the dialog; shown
+// again, it keeps the answer. A press on the text, which the label passes on, drags the dialog
+// without a jump.
+void TestSettingView::consentDialog()
+{
+    Widget_LocationPolicy dialog;
+    dialog.move(200, 150);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QSignalSpy spy(&dialog, &Widget_LocationPolicy::sendPushOK);
+    auto* box = dialog.findChild<QCheckBox*>("check_notRemind");
+    auto* ok = dialog.findChild<QPushButton*>("btn_OK");
+    QTest::mouseClick(ok, Qt::LeftButton);
+    QVERIFY(!dialog.isVisible());
+    dialog.show();
+    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+    QTest::mouseClick(ok, Qt::LeftButton);
+    dialog.show();
+    QTest::mouseClick(ok, Qt::LeftButton);
+    QCOMPARE(spy, (QList<QVariantList>{{false}, {true}, {true}}));
+
+    QWidget* target = dialog.findChild<QWidget*>("label_Content");
+    const QPoint start = dialog.pos();
+    const QPoint offset = target->mapTo(&dialog, QPoint(160, 40));
+    // The pointer's place on the screen; dragging keeps it over the same spot of the window.
+    QPoint pointer = start + offset;
+    sendMouse(&dialog, target, QEvent::MouseButtonPress, pointer);
+    QCOMPARE(dialog.pos(), start);
+    for (const QPoint& step : {QPoint(30, 20), QPoint(-5, 12), QPoint(40, -60)}) {
+        pointer += step;
+        sendMouse(&dialog, target, QEvent::MouseMove, pointer);
+        QCOMPARE(pointer - dialog.pos(), offset);
+    }
+    sendMouse(&dialog, target, QEvent::MouseButtonRelease, pointer);
+    // After the release the pointer moves alone.
+    const QPoint released = dialog.pos();
+    sendMouse(&dialog, target, QEvent::MouseMove, pointer + QPoint(25, 25));
+    QCOMPARE(dialog.pos(), released);
 }
 
 QTEST_MAIN(TestSettingView)
