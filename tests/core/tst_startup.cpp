@@ -1,7 +1,12 @@
-// Start-up: the command line with the real program's exit codes and messages, the data directory
-// and debug switch, the single-instance rule with a real second process, and the control
+// Start-up: the command line with the real program's exit codes and messages, the data directory,
+// debug switch and log, the single-instance rule with a real second process, and the control
 // service's launch.
+
+// Debug builds pass file and line with every message; this test is built that way in any build.
+#define QT_MESSAGELOGCONTEXT
+
 #include "CommandLine.h"
+#include "Log.h"
 #include "Platform.h"
 #include "Startup.h"
 #include "TestEnvironment.h"
@@ -13,6 +18,22 @@
 Q_DECLARE_METATYPE(CommandLine::Action)
 
 namespace {
+
+// The defaults are under test, not the rules ctest passes to every test program.
+const bool rulesCleared = qunsetenv("QT_LOGGING_RULES");
+
+const QString kTime = QStringLiteral("\u3010\\d{4}-\\d{2}-\\d{2} \\d{2}:\\d{2}:\\d{2}\u3011");
+
+QStringList logLines()
+{
+    QFile file(Log::filePath());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QStringList lines = QString::fromUtf8(file.readAll()).split(QStringLiteral("\r\n"));
+    if (!lines.isEmpty() && lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
 
 struct Received {
     unsigned message = 0;
@@ -85,8 +106,6 @@ private slots:
         QTest::addColumn<bool>("open");
         QTest::addColumn<bool>("background");
         using A = CommandLine::Action;
-        QTest::newRow("open, background")
-            << QStringList{"open", "--background"} << A::Run << true << true;
         // "open" counts as the first argument only.
         QTest::newRow("open second")
             << QStringList{"--background", "open"} << A::Fail << false << false;
@@ -139,6 +158,7 @@ private slots:
 
     void debugSwitch_data();
     void debugSwitch();
+    void diagnosticLinesFollowDebugMode();
     void secondInstance();
     void runningPanelQuitsOnMessage();
     void controlLaunch();
@@ -178,6 +198,49 @@ void tst_Startup::debugSwitch()
     }
     QCOMPARE(Startup::isDebugMode(), debug);
     QFile::remove(iniPath());
+}
+
+// Diagnostic lines are off unless asked for; in debug mode every line goes to the file, with no
+// source location although this test is built to pass one.
+void tst_Startup::diagnosticLinesFollowDebugMode()
+{
+    QVERIFY(rulesCleared);
+    QDir(Startup::dataDirectory()).removeRecursively();
+    QVERIFY(QDir().mkpath(Startup::dataDirectory()));
+    // Off by default, and then nothing is formatted for them.
+    int formatted = 0;
+    const auto costly = [&formatted] {
+        ++formatted;
+        return QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
+    };
+    qCDebug(lcPanel) << "receivePreview_Event" << costly();
+    QCOMPARE(formatted, 0);
+    QVERIFY(lcPanel().isWarningEnabled());
+
+    // Debug mode: every line in the file, with no source location although this build
+    // passes one.
+    Log::install();
+    qCDebug(lcPanel) << "Main_View::slot_show_Info" << costly();
+    qWarning("lighting library lacks %d \u6e2c\u8a66", 2);
+    qInstallMessageHandler(nullptr);
+    QLoggingCategory::setFilterRules(QString());
+    QCOMPARE(formatted, 1);
+    const QStringList lines = logLines();
+    QCOMPARE(lines.size(), 2);
+    const QRegularExpression debugLine(
+        '^' + kTime +
+        QStringLiteral("Debug: Main_View::slot_show_Info \"[-0-9T:.]+\" "
+                       "File:\\(\\) Line:\\(0\\)$"));
+    QVERIFY2(debugLine.match(lines.at(0)).hasMatch(), qPrintable(lines.at(0)));
+    const QRegularExpression warningLine(
+        '^' + kTime +
+        QStringLiteral("Warning: lighting library lacks 2 \u6e2c\u8a66 File:\\(\\) Line:\\(0\\)$"));
+    QVERIFY2(warningLine.match(lines.at(1)).hasMatch(), qPrintable(lines.at(1)));
+
+    // Without the data directory the lines are lost, quietly.
+    QDir(Startup::dataDirectory()).removeRecursively();
+    Log::messageHandler(QtDebugMsg, QMessageLogContext(), QStringLiteral("lost"));
+    QVERIFY(!QFileInfo::exists(Log::filePath()));
 }
 
 void tst_Startup::secondInstance()

@@ -138,11 +138,6 @@ HWData* Double_hw(void)
     return &state().hw;
 }
 
-NotiEventData* Double_noti(void)
-{
-    return &state().noti;
-}
-
 SettingData* Double_setting(void)
 {
     return &state().setting;

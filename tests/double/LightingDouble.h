@@ -16,7 +16,6 @@ NX_DOUBLE_EXPORT void Double_reset(void);
 // The records the library answers with and the last ones it was given, for the test to set and
 // read.
 NX_DOUBLE_EXPORT HWData* Double_hw(void);
-NX_DOUBLE_EXPORT NotiEventData* Double_noti(void);
 NX_DOUBLE_EXPORT SettingData* Double_setting(void);
 NX_DOUBLE_EXPORT void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode,
                                          int32_t lightSpeed, uint8_t turnOff);

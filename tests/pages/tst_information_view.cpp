@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStandardPaths>
-#include <QTranslator>
 #include <QtTest>
 
 #include <cmath>
@@ -24,11 +23,7 @@ private slots:
         page = std::make_unique<Information_View>();
         page->show();
     }
-    void cleanup()
-    {
-        QCoreApplication::removeTranslator(&translator);
-        page.reset();
-    }
+    void cleanup() { page.reset(); }
 
     void labels_data();
     void labels();
@@ -42,12 +37,10 @@ private:
     }
 
     std::unique_ptr<Information_View> page;
-    QTranslator translator;
 };
 
 void TestInformationView::labels_data()
 {
-    QTest::addColumn<bool>("english");
     QTest::addColumn<int>("channel");
     QTest::addColumn<int>("size");
     QTest::addColumn<int>("temperature");
@@ -55,29 +48,24 @@ void TestInformationView::labels_data()
     // Channel, total, size, temperature and load labels.
     QTest::addColumn<QString>("texts");
 
-    const auto row = [](const char* name, bool english, int channel, int size, int temperature,
-                        double load, const char* texts) {
-        QTest::newRow(name) << english << channel << size << temperature << load
-                            << QString::fromUtf8(texts);
+    const auto row = [](const char* name, int channel, int size, int temperature, double load,
+                        const char* texts) {
+        QTest::newRow(name) << channel << size << temperature << load << QString::fromUtf8(texts);
     };
-    row("source, dual, 8192 MB, 31 C", false, 2, 8192, 31, 42.5,
+    row("dual, 8192 MB, 31 C", 2, 8192, 31, 42.5,
         "Channel:Dual| / 8 GB|Size:8 GByte|Temperature:31°C / 87°F|42.50");
-    row("english, channel 0, 1023 MB, -5 C", true, 0, 1023, -5, 99.99,
-        "Channel:  N/A| / 0 GB|Size: 0 GByte|TEMP: N/A|99.99");
-    row("source, channel 1, negative load", false, 1, 8192, 31, -1.0,
+    row("channel 0, 1023 MB, -5 C", 0, 1023, -5, 99.99,
+        "Channel: N/A| / 0 GB|Size:0 GByte|Temperature:N/A|99.99");
+    row("channel 1, negative load", 1, 8192, 31, -1.0,
         "Channel:N/A| / 8 GB|Size:8 GByte|Temperature:31°C / 87°F|N/A");
 }
 
 void TestInformationView::labels()
 {
-    QFETCH(bool, english);
     QFETCH(int, channel);
     QFETCH(int, size);
     QFETCH(int, temperature);
     QFETCH(double, load);
-    if (english)
-        QVERIFY(translator.load(QStringLiteral(":/QXRGBMemory/NORVALEX_en.qm")) &&
-                QCoreApplication::installTranslator(&translator));
 
     HWData data{};
     for (int i = 0; i < NX_MODULE_COUNT; ++i) {
@@ -105,6 +93,7 @@ void TestInformationView::labels()
 // its field without a terminator and its text stops there.
 void TestInformationView::slotButtons()
 {
+    // From a layout of two, so that every button really changes.
     Information_Slots_View* view = page->slotsView();
     view->resetSlotButtons(2);
     view->resetSlotButtons(12);
