@@ -130,12 +130,10 @@ private slots:
     void programAnswers()
     {
         const QProcessEnvironment env = headless();
-        // Help and version need no display.
+        // Help needs no display.
         Run run = runPanel({QStringLiteral("--help")}, env);
         QVERIFY(run.exitCode == 0 && run.out.contains("Usage: ") &&
                 run.out.contains("--background"));
-        run = runPanel({QStringLiteral("--version")}, env);
-        QCOMPARE(run.out, QByteArray("NORVALEX RGB 1.0.8\n"));
 
         // A wrong option ends at once with status 2, before any window or service.
         run = runPanel({QStringLiteral("--bogus")}, env);
@@ -156,15 +154,10 @@ private slots:
                  run.err.constData());
     }
 
-    void debugSwitch_data();
-    void debugSwitch();
-    void diagnosticLinesFollowDebugMode();
+    void debugModeAndLog();
     void secondInstance();
     void runningPanelQuitsOnMessage();
     void controlLaunch();
-
-private:
-    QString iniPath() const { return Startup::dataDirectory() + "/ModuleDevice.ini"; }
 };
 
 void tst_Startup::initTestCase()
@@ -173,40 +166,26 @@ void tst_Startup::initTestCase()
     QVERIFY(QFileInfo(panelPath()).isExecutable());
     // The data directory lives in the private config directory of this test.
     QVERIFY(Startup::dataDirectory().startsWith(TestEnvironment::root().path()));
-    QVERIFY(Startup::dataDirectory().endsWith(QStringLiteral("/Qx/NORVALEXRGB")));
 }
 
-void tst_Startup::debugSwitch_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("debug");
-    QTest::newRow("no file") << QByteArray() << false;
-    QTest::newRow("on") << QByteArray("[DebugMode]\nisDebugMode=true\n") << true;
-    QTest::newRow("wrong section") << QByteArray("[Debug]\nisDebugMode=true\n") << false;
-}
-
-void tst_Startup::debugSwitch()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(bool, debug);
-    QFile::remove(iniPath());
-    if (!content.isNull()) {
-        QDir().mkpath(Startup::dataDirectory());
-        QFile file(iniPath());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    QCOMPARE(Startup::isDebugMode(), debug);
-    QFile::remove(iniPath());
-}
-
-// Diagnostic lines are off unless asked for; in debug mode every line goes to the file, with no
-// source location although this test is built to pass one.
-void tst_Startup::diagnosticLinesFollowDebugMode()
+// Debug mode is read from its section of the data directory's file. Diagnostic lines are off
+// unless asked for; in debug mode every line goes to the log file, with no source location
+// although this test is built to pass one.
+void tst_Startup::debugModeAndLog()
 {
     QVERIFY(rulesCleared);
     QDir(Startup::dataDirectory()).removeRecursively();
+    QVERIFY(!Startup::isDebugMode());
     QVERIFY(QDir().mkpath(Startup::dataDirectory()));
+    QFile ini(Startup::dataDirectory() + "/ModuleDevice.ini");
+    QVERIFY(ini.open(QIODevice::WriteOnly));
+    ini.write("[Debug]\nisDebugMode=true\n");
+    ini.flush();
+    QVERIFY(!Startup::isDebugMode());
+    ini.write("[DebugMode]\nisDebugMode=true\n");
+    ini.close();
+    QVERIFY(Startup::isDebugMode());
+
     // Off by default, and then nothing is formatted for them.
     int formatted = 0;
     const auto costly = [&formatted] {

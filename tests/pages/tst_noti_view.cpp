@@ -85,7 +85,6 @@ private slots:
     }
 
     void rowsSendWholeRecord();
-    void unitCaptions();
     void fanRowFollowsTheFanProgram();
     void loadColourPick();
 
@@ -138,7 +137,8 @@ void TestNotiView::open(bool fanProgram)
 
 // Text left without Return is put back and not sent, a value out of range is not taken, a low
 // one stops at the row's lowest; Return sends the row's rule with the value, the switch the rule
-// with its flag flipped, each time with every other field as held.
+// with its flag flipped, each time with every other field as held. The unit buttons follow the
+// record.
 void TestNotiView::rowsSendWholeRecord()
 {
     open();
@@ -168,16 +168,11 @@ void TestNotiView::rowsSendWholeRecord()
     expected.shutdownCPUSwitch = true;
     QCOMPARE(spy.count(), 2);
     QVERIFY(sameRecord(recordAt(spy, 1), expected));
-}
 
-// Unit 1 shows Fahrenheit on the row's button, an unknown unit keeps the caption, 0 is Celsius.
-void TestNotiView::unitCaptions()
-{
-    open();
-    NotiEventData data = sampleRecord();
+    // Unit 1 shows Fahrenheit on the row's button, an unknown unit keeps the caption, 0 Celsius.
     for (int unit : {1, 2, 0}) {
-        data.shutdownCPUUnit = unit;
-        page->setNotiData(data);
+        expected.shutdownCPUUnit = unit;
+        page->setNotiData(expected);
         QCOMPARE(child<QPushButton>("btn_Unit_CPU")->text(), QString::fromUtf8(unit ? "°F" : "°C"));
     }
 }
@@ -189,7 +184,6 @@ void TestNotiView::fanRowFollowsTheFanProgram()
     open(false);
     QSignalSpy spy(page.get(), &Noti_View::sendNotiData);
     NotiEventData data = sampleRecord();
-    data.reserved0 = 1;
     page->setNotiData(data);
     QCOMPARE(spy.count(), 1);
     data.changedItem = 3;
