@@ -35,20 +35,10 @@ QStringList logLines()
     return lines;
 }
 
-struct Received {
-    unsigned message = 0;
-    std::uintptr_t wParam = 0;
-    std::intptr_t lParam = 0;
-    int count = 0;
-};
-
+// The messages the listener received: message, wParam, lParam.
 void recordMessage(void* context, unsigned message, std::uintptr_t wParam, std::intptr_t lParam)
 {
-    auto* r = static_cast<Received*>(context);
-    r->message = message;
-    r->wParam = wParam;
-    r->lParam = lParam;
-    ++r->count;
+    static_cast<QList<QList<qint64>>*>(context)->append({message, qint64(wParam), lParam});
 }
 
 QString panelPath()
@@ -228,7 +218,7 @@ void tst_Startup::secondInstance()
     bool exists = true;
     Platform::MutexHandle first = Platform::createMutex(L"NORVALEX RGB.exe", &exists);
     QVERIFY(!exists);
-    Received received;
+    QList<QList<qint64>> received;
     void* listener = Platform::listenForMessages(L"NORVALEX", recordMessage, &received);
 
     QProcess second;
@@ -236,8 +226,7 @@ void tst_Startup::secondInstance()
     second.start(panelPath(), QStringList());
     QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 10000);
     QCOMPARE(second.exitCode(), 0);
-    QCOMPARE(received.count, 1);
-    QVERIFY(received.message == 0x8101u && received.wParam == 1 && received.lParam == 1);
+    QCOMPARE(received, (QList<QList<qint64>>{{0x8101, 1, 1}}));
 
     // A busy first instance (this thread blocks and never serves its listener) does not make
     // the second one hang.

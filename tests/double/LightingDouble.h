@@ -1,7 +1,6 @@
 #pragma once
 
-// Control side of the test double: what a test sets and what it reads back. The 23 lighting
-// functions themselves are exported with the names of the real library.
+// Control side of the test double; the 23 lighting functions carry the real library's names.
 
 #include "norvalex_lighting.h"
 
@@ -13,8 +12,7 @@ extern "C" {
 
 // Forgets every recorded call and restores the default answers.
 NX_DOUBLE_EXPORT void Double_reset(void);
-// The records the library answers with and the last ones it was given, for the test to set and
-// read.
+// The records it answers with and the last ones it was given.
 NX_DOUBLE_EXPORT HWData* Double_hw(void);
 NX_DOUBLE_EXPORT SettingData* Double_setting(void);
 NX_DOUBLE_EXPORT void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode,
