@@ -30,15 +30,14 @@ struct FanProgram {
 
 NotiEventData sampleRecord()
 {
+    // Reserved cells set too: a rule sent back keeps every field as held.
     NotiEventData data{};
     data.reserved0 = 77;
-    data.loadingSwitch = true;
+    data.reserved20 = -5;
+    data.loadingSwitch = data.shutdownMemorySwitch = data.fanSpeedSwitch = true;
     data.loadingValue = 60;
     data.loadingColor = 0x00336699;
-    data.reserved20 = -5;
-    data.shutdownMemorySwitch = true;
     data.shutdownMemoryValue = 55;
-    data.fanSpeedSwitch = true;
     data.fanSpeedValue = 65;
     data.shutdownCPUValue = 85;
     return data;
