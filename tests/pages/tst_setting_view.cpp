@@ -137,7 +137,6 @@ void TestSettingView::switchesAndLocationRow()
     page->setSettingData(held);
     QVERIFY(child("switch_CurrentLocation")->isHidden() &&
             child("label_CurrentLocation")->isHidden());
-    QVERIFY(child("switch_AutoRun")->isVisible());
 }
 
 // The location consent dialog: OK reports whether the box is ticked and closes the dialog; shown
