@@ -220,6 +220,11 @@ void tst_Startup::secondInstance()
     QVERIFY(!exists);
     QList<QList<qint64>> received;
     void* listener = Platform::listenForMessages(L"NORVALEX", recordMessage, &received);
+    // Stopped on every way out: a failed check must not leave it writing to `received`.
+    const auto stop = qScopeGuard([&] {
+        Platform::stopListening(listener);
+        Platform::closeHandle(first);
+    });
 
     QProcess second;
     second.setProcessEnvironment(childEnvironment());
@@ -236,9 +241,6 @@ void tst_Startup::secondInstance()
     QVERIFY(second.waitForFinished(15000));
     QCOMPARE(second.exitCode(), 0);
     QVERIFY(timer.elapsed() < 10000);
-
-    Platform::stopListening(listener);
-    Platform::closeHandle(first);
 }
 
 void tst_Startup::runningPanelQuitsOnMessage()
