@@ -5,7 +5,6 @@
 // Debug builds pass file and line with every message; this test is built that way in any build.
 #define QT_MESSAGELOGCONTEXT
 
-#include "CommandLine.h"
 #include "Log.h"
 #include "Platform.h"
 #include "Startup.h"
@@ -14,8 +13,6 @@
 #include <QtTest>
 
 #include <csignal>
-
-Q_DECLARE_METATYPE(CommandLine::Action)
 
 namespace {
 
@@ -89,34 +86,6 @@ class tst_Startup : public QObject
 
 private slots:
     void initTestCase();
-    void parse_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<CommandLine::Action>("action");
-        QTest::addColumn<bool>("open");
-        QTest::addColumn<bool>("background");
-        using A = CommandLine::Action;
-        // "open" counts as the first argument only.
-        QTest::newRow("open second")
-            << QStringList{"--background", "open"} << A::Fail << false << false;
-        QTest::newRow("open twice") << QStringList{"open", "open"} << A::Fail << true << false;
-        // Qt's own options stay QApplication's.
-        QTest::newRow("qt platform")
-            << QStringList{"-platform", "offscreen", "--background"} << A::Run << false << true;
-    }
-
-    void parse()
-    {
-        QFETCH(QStringList, arguments);
-        arguments.prepend(QStringLiteral("norvalex-rgb"));
-        CommandLine commandLine;
-        const CommandLine::Action action = commandLine.parse(arguments);
-        QTEST(action, "action");
-        QTEST(commandLine.isOpen(), "open");
-        QTEST(commandLine.isBackground(), "background");
-        QCOMPARE(commandLine.errorText().isEmpty(), action != CommandLine::Action::Fail);
-    }
-
     void programAnswers()
     {
         const QProcessEnvironment env = headless();
@@ -130,6 +99,10 @@ private slots:
         QCOMPARE(run.exitCode, 2);
         QVERIFY2(run.err.startsWith("norvalex-rgb: ") && run.err.contains("'bogus'"),
                  run.err.constData());
+        // "open" counts as the first argument only; Qt's own options stay QApplication's.
+        QCOMPARE(runPanel({QStringLiteral("--background"), QStringLiteral("open")}, env).exitCode,
+                 2);
+        QCOMPARE(runPanel({"-platform", "offscreen", "--help"}, env).exitCode, 0);
 
         // Without a graphical session, or with a display that cannot be opened: one plain
         // sentence, no platform-plugin abort.

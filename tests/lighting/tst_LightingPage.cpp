@@ -1,8 +1,10 @@
 // The lighting page as the user drives it: the light-mode rules, Apply and Default with what they
 // send, the colour fields, profiles, LED selection with a dragged band and the row buttons, Edit
-// mode, a layout clear of the frame's menu, and a state refresh that repaints only what changed.
+// mode, the Tab order, a layout clear of the frame's menu, and a state refresh that repaints
+// only what changed.
 
 #include "AppGlobals.h"
+#include "FocusOrder.h"
 #include "Lighting_View.h"
 #include "Memory_RGB_View.h"
 #include "Palette_draw_rect.h"
@@ -258,6 +260,7 @@ private slots:
     void layout_data();
     void layout();
     void refreshRepaintsOnlyChanges();
+    void tabOrder();
 };
 
 // One mode of each kind of rule, applied in turn with modules 2 (speed Fast) and 5 (speed Slow)
@@ -531,6 +534,55 @@ void tst_LightingPage::refreshRepaintsOnlyChanges()
     }
     p.refresh(0);
     QVERIFY(p.screenMatchesFullRepaint());
+}
+
+// Widgets named first come first in a page's Tab order, a container standing for its children;
+// the rest follow in their old order and the widgets around the page stay where they were, also
+// once the page's children stand before the page in the focus ring. The lighting page reads
+// profiles and slot editor, the modules and their rows, then the deck (built first).
+void tst_LightingPage::tabOrder()
+{
+    const auto names = [](const QList<QWidget*>& widgets) {
+        QStringList out;
+        for (const QWidget* w : widgets)
+            out << w->objectName();
+        return out;
+    };
+    const auto nextStop = [](QWidget* w) {
+        QWidget* next = w->nextInFocusChain();
+        while (!(next->focusPolicy() & Qt::TabFocus))
+            next = next->nextInFocusChain();
+        return next;
+    };
+    const auto button = [](QWidget* parent, const char* name) {
+        auto* b = new QPushButton(parent);
+        b->setObjectName(QLatin1String(name));
+        return b;
+    };
+    QWidget window;
+    QPushButton* before = button(&window, "before");
+    auto* page = new QWidget(&window);
+    new QLabel(QStringLiteral("title"), page);
+    button(page, "a");
+    QPushButton* b = button(page, "b");
+    auto* strip = new QWidget(page);
+    button(strip, "c1");
+    button(strip, "c2");
+    QPushButton* d = button(page, "d");
+    QPushButton* after = button(&window, "after");
+    FocusOrder::placeFirst(page, {strip, d, after});
+    FocusOrder::placeFirst(page, {strip});
+    QCOMPARE(names(FocusOrder::tabChain(page)), QStringList({"c1", "c2", "d", "a", "b"}));
+    QCOMPARE(nextStop(before)->objectName(), QStringLiteral("c1"));
+    QCOMPARE(nextStop(b), after);
+
+    Lighting_View lighting;
+    const QStringList chain = names(FocusOrder::tabChain(&lighting));
+    const int edit = chain.indexOf(QStringLiteral("btn_Edit"));
+    const int slot = chain.indexOf(QStringLiteral("btn_MemorySlot"));
+    const int row = chain.indexOf(QStringLiteral("btn_SelectHorizontal"));
+    QVERIFY(chain.first() == "btn_Profile0" && chain.last() == "btn_Default");
+    QVERIFY(edit > 0 && edit < slot && slot < row && row < chain.indexOf("btn_LightMode"));
 }
 
 QTEST_MAIN(tst_LightingPage)
