@@ -4,9 +4,7 @@
 
 #include "norvalex_lighting.h"
 
-#ifdef __cplusplus
 extern "C" {
-#endif
 
 #define NX_DOUBLE_EXPORT __attribute__((visibility("default")))
 
@@ -26,7 +24,4 @@ NX_DOUBLE_EXPORT int Double_callCount(const char* function);
 // (joined before returning).
 NX_DOUBLE_EXPORT void Double_fireLightModeEvent(int32_t value, int onOwnThread);
 NX_DOUBLE_EXPORT void Double_firePreviewEvent(int onOwnThread);
-
-#ifdef __cplusplus
 }
-#endif

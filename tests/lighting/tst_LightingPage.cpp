@@ -222,16 +222,13 @@ QStringList ledsOf(int firstSlot, int lastSlot, int firstLed, int lastLed)
 
 // Counts paint and style-change events per widget, application-wide.
 struct EventCounter : QObject {
-    QHash<const QObject*, int> paints;
-    QHash<const QObject*, int> restyles;
+    QHash<const QObject*, int> paints, restyles;
     EventCounter() { qApp->installEventFilter(this); }
     ~EventCounter() override { qApp->removeEventFilter(this); }
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint)
-            ++paints[watched];
-        else if (event->type() == QEvent::StyleChange)
-            ++restyles[watched];
+        paints[watched] += event->type() == QEvent::Paint;
+        restyles[watched] += event->type() == QEvent::StyleChange;
         return false;
     }
 };
