@@ -41,7 +41,6 @@ public:
     QTimer* pollTimer() const { return m_pollTimer; }
     QTranslator* translator() const { return m_translator; }
     bool isInitDone() const { return m_initDone; }
-    bool isRestartTried() const { return m_restartTried; }
     // The time source of the freshness rule (seconds since the epoch, truncated to 32 bits).
     void setClock(std::function<quint32()> clock);
     // Replaces the Control-executable launcher (tests count launches instead).

@@ -18,7 +18,6 @@ public:
     explicit Information_View(QWidget* parent = nullptr);
 
     Information_Slots_View* slotsView() const { return information_Slots_View; }
-    double currentMemoryLoad() const { return memoryLoad; }
 
     // Span of the value arc in sixteenths of a degree: 2.4 degrees per percent, clockwise,
     // whole degrees only.

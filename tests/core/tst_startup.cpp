@@ -1,31 +1,41 @@
-// Start-up: the command line with the real program's exit codes and messages, the data directory
-// and debug switch, the language table and the single-instance rule with a real second process.
-#include "CommandLine.h"
-#include "Languages.h"
+// Start-up: the command line with the real program's exit codes and messages, the data directory,
+// debug switch and log, the single-instance rule with a real second process, and the control
+// service's launch.
+
+// Debug builds pass file and line with every message; this test is built that way in any build.
+#define QT_MESSAGELOGCONTEXT
+
+#include "Log.h"
 #include "Platform.h"
 #include "Startup.h"
 #include "TestEnvironment.h"
 
 #include <QtTest>
 
-Q_DECLARE_METATYPE(CommandLine::Action)
+#include <csignal>
 
 namespace {
 
-struct Received {
-    unsigned message = 0;
-    std::uintptr_t wParam = 0;
-    std::intptr_t lParam = 0;
-    int count = 0;
-};
+// The defaults are under test, not the rules ctest passes to every test program.
+const bool rulesCleared = qunsetenv("QT_LOGGING_RULES");
 
+const QString kTime = QStringLiteral("\u3010\\d{4}-\\d{2}-\\d{2} \\d{2}:\\d{2}:\\d{2}\u3011");
+
+QStringList logLines()
+{
+    QFile file(Log::filePath());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QStringList lines = QString::fromUtf8(file.readAll()).split(QStringLiteral("\r\n"));
+    if (!lines.isEmpty() && lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
+// The messages the listener received: message, wParam, lParam.
 void recordMessage(void* context, unsigned message, std::uintptr_t wParam, std::intptr_t lParam)
 {
-    auto* r = static_cast<Received*>(context);
-    r->message = message;
-    r->wParam = wParam;
-    r->lParam = lParam;
-    ++r->count;
+    static_cast<QList<QList<qint64>>*>(context)->append({message, qint64(wParam), lParam});
 }
 
 QString panelPath()
@@ -52,16 +62,11 @@ Run runPanel(const QStringList& arguments, const QProcessEnvironment& env)
     QProcess process;
     process.setProcessEnvironment(env);
     process.start(panelPath(), arguments);
-    Run run;
-    if (!process.waitForFinished(20000)) {
+    if (!process.waitForFinished(20000))
         process.kill();
-        process.waitForFinished();
-        return run;
-    }
-    run.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
-    run.out = process.readAllStandardOutput();
-    run.err = process.readAllStandardError();
-    return run;
+    process.waitForFinished();
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2,
+            process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
 // No window system at all: none set, none forced.
@@ -81,94 +86,41 @@ class tst_Startup : public QObject
 
 private slots:
     void initTestCase();
-    void parse_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<CommandLine::Action>("action");
-        QTest::addColumn<bool>("open");
-        QTest::addColumn<bool>("background");
-        using A = CommandLine::Action;
-        QTest::newRow("none") << QStringList() << A::Run << false << false;
-        QTest::newRow("open") << QStringList{"open"} << A::Run << true << false;
-        QTest::newRow("open, background")
-            << QStringList{"open", "--background"} << A::Run << true << true;
-        // "open" counts as the first argument only, exactly spelled.
-        QTest::newRow("open second")
-            << QStringList{"--background", "open"} << A::Fail << false << false;
-        QTest::newRow("Open") << QStringList{"Open"} << A::Fail << false << false;
-        QTest::newRow("open twice") << QStringList{"open", "open"} << A::Fail << true << false;
-        QTest::newRow("unknown") << QStringList{"--bogus"} << A::Fail << false << false;
-        QTest::newRow("value to a flag")
-            << QStringList{"--background=yes"} << A::Fail << false << false;
-        // Qt's own options stay QApplication's.
-        QTest::newRow("qt platform")
-            << QStringList{"-platform", "offscreen", "--background"} << A::Run << false << true;
-        QTest::newRow("qt style") << QStringList{"-style=fusion", "-reverse"} << A::Run << false
-                                  << false;
-        QTest::newRow("help") << QStringList{"--help"} << A::ShowHelp << false << false;
-        QTest::newRow("help-all") << QStringList{"--help-all"} << A::ShowHelp << false << false;
-        QTest::newRow("version") << QStringList{"--version"} << A::ShowVersion << false << false;
-    }
-
-    void parse()
-    {
-        QFETCH(QStringList, arguments);
-        arguments.prepend(QStringLiteral("norvalex-rgb"));
-        CommandLine commandLine;
-        const CommandLine::Action action = commandLine.parse(arguments);
-        QTEST(action, "action");
-        QTEST(commandLine.isOpen(), "open");
-        QTEST(commandLine.isBackground(), "background");
-        QCOMPARE(commandLine.errorText().isEmpty(), action != CommandLine::Action::Fail);
-    }
-
     void programAnswers()
     {
         const QProcessEnvironment env = headless();
-        // Help and version need no display.
+        // Help needs no display.
         Run run = runPanel({QStringLiteral("--help")}, env);
-        QCOMPARE(run.exitCode, 0);
-        QVERIFY(run.out.contains("Usage: "));
-        QVERIFY(run.out.contains("--background"));
-        QVERIFY(run.out.contains("[open]"));
-        QVERIFY(!run.out.contains("-platform"));
-        run = runPanel({QStringLiteral("--version")}, env);
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.out, QByteArray("NORVALEX RGB 1.0.8\n"));
+        QVERIFY(run.exitCode == 0 && run.out.contains("Usage: ") &&
+                run.out.contains("--background"));
 
         // A wrong option ends at once with status 2, before any window or service.
-        for (const QString& wrong : {QStringLiteral("--bogus"), QStringLiteral("Open")}) {
-            run = runPanel({wrong}, env);
-            QCOMPARE(run.exitCode, 2);
-            QVERIFY(run.out.isEmpty());
-            QVERIFY2(run.err.startsWith("norvalex-rgb: ") && run.err.contains("--help"),
-                     run.err.constData());
-        }
-        QVERIFY(runPanel({QStringLiteral("--bogus")}, env).err.contains("'bogus'"));
+        run = runPanel({QStringLiteral("--bogus")}, env);
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.startsWith("norvalex-rgb: ") && run.err.contains("'bogus'"),
+                 run.err.constData());
+        // "open" counts as the first argument only; Qt's own options stay QApplication's.
+        QCOMPARE(runPanel({QStringLiteral("--background"), QStringLiteral("open")}, env).exitCode,
+                 2);
+        QCOMPARE(runPanel({"-platform", "offscreen", "--help"}, env).exitCode, 0);
 
-        // Without a graphical session: one plain sentence, no platform-plugin abort.
+        // Without a graphical session, or with a display that cannot be opened: one plain
+        // sentence, no platform-plugin abort.
         run = runPanel({}, env);
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.err.contains("needs a graphical session"), run.err.constData());
-        QVERIFY(!run.err.contains("Reinstalling"));
-        // A display that cannot be opened.
         QProcessEnvironment unreachable = env;
         unreachable.insert(QStringLiteral("DISPLAY"), QStringLiteral(":64999"));
         run = runPanel({}, unreachable);
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.err.contains("needs a graphical session") && run.err.contains(":64999"),
                  run.err.constData());
-        QVERIFY(!run.err.contains("Reinstalling"));
     }
 
-    void debugSwitch_data();
-    void debugSwitch();
-    void languageTable();
+    void debugModeAndLog();
     void secondInstance();
     void runningPanelQuitsOnMessage();
-
-private:
-    QString iniPath() const { return Startup::dataDirectory() + "/ModuleDevice.ini"; }
+    void controlLaunch();
 };
 
 void tst_Startup::initTestCase()
@@ -177,47 +129,60 @@ void tst_Startup::initTestCase()
     QVERIFY(QFileInfo(panelPath()).isExecutable());
     // The data directory lives in the private config directory of this test.
     QVERIFY(Startup::dataDirectory().startsWith(TestEnvironment::root().path()));
-    QVERIFY(Startup::dataDirectory().endsWith(QStringLiteral("/Qx/NORVALEXRGB")));
 }
 
-void tst_Startup::debugSwitch_data()
+// Debug mode is read from its section of the data directory's file. Diagnostic lines are off
+// unless asked for; in debug mode every line goes to the log file, with no source location
+// although this test is built to pass one.
+void tst_Startup::debugModeAndLog()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("debug");
-    QTest::newRow("no file") << QByteArray() << false;
-    QTest::newRow("on") << QByteArray("[DebugMode]\nisDebugMode=true\n") << true;
-    QTest::newRow("one") << QByteArray("[DebugMode]\nisDebugMode=1\n") << true;
-    QTest::newRow("off") << QByteArray("[DebugMode]\nisDebugMode=false\n") << false;
-    QTest::newRow("wrong section") << QByteArray("[Debug]\nisDebugMode=true\n") << false;
-    QTest::newRow("binary garbage") << QByteArray("\x00\xff\xfe[[[=\n\x01", 10) << false;
-}
+    QVERIFY(rulesCleared);
+    QDir(Startup::dataDirectory()).removeRecursively();
+    QVERIFY(!Startup::isDebugMode());
+    QVERIFY(QDir().mkpath(Startup::dataDirectory()));
+    QFile ini(Startup::dataDirectory() + "/ModuleDevice.ini");
+    QVERIFY(ini.open(QIODevice::WriteOnly));
+    ini.write("[Debug]\nisDebugMode=true\n");
+    ini.flush();
+    QVERIFY(!Startup::isDebugMode());
+    ini.write("[DebugMode]\nisDebugMode=true\n");
+    ini.close();
+    QVERIFY(Startup::isDebugMode());
 
-void tst_Startup::debugSwitch()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(bool, debug);
-    QFile::remove(iniPath());
-    if (!content.isNull()) {
-        QDir().mkpath(Startup::dataDirectory());
-        QFile file(iniPath());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    QCOMPARE(Startup::isDebugMode(), debug);
-    QFile::remove(iniPath());
-}
+    // Off by default, and then nothing is formatted for them.
+    int formatted = 0;
+    const auto costly = [&formatted] {
+        ++formatted;
+        return QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
+    };
+    qCDebug(lcPanel) << "receivePreview_Event" << costly();
+    QCOMPARE(formatted, 0);
+    QVERIFY(lcPanel().isWarningEnabled());
 
-void tst_Startup::languageTable()
-{
-    const QStringList codes = {"en", "zh", "cn", "de", "fr", "jp", "th", "ru", "kr", "es"};
-    for (int i = 0; i < codes.size(); ++i) {
-        const QString file = Languages::fileForIndex(i);
-        QCOMPARE(file, ":/QXRGBMemory/NORVALEX_" + codes.at(i) + ".qm");
-        QTranslator translator;
-        QVERIFY2(translator.load(file), qPrintable(file));
-    }
-    for (int index : {-1, 10, 11, 1000})
-        QVERIFY(Languages::fileForIndex(index).isEmpty());
+    // Debug mode: every line in the file, with no source location although this build
+    // passes one.
+    Log::install();
+    qCDebug(lcPanel) << "Main_View::slot_show_Info" << costly();
+    qWarning("lighting library lacks %d \u6e2c\u8a66", 2);
+    qInstallMessageHandler(nullptr);
+    QLoggingCategory::setFilterRules(QString());
+    QCOMPARE(formatted, 1);
+    const QStringList lines = logLines();
+    QCOMPARE(lines.size(), 2);
+    const QRegularExpression debugLine(
+        '^' + kTime +
+        QStringLiteral("Debug: Main_View::slot_show_Info \"[-0-9T:.]+\" "
+                       "File:\\(\\) Line:\\(0\\)$"));
+    QVERIFY2(debugLine.match(lines.at(0)).hasMatch(), qPrintable(lines.at(0)));
+    const QRegularExpression warningLine(
+        '^' + kTime +
+        QStringLiteral("Warning: lighting library lacks 2 \u6e2c\u8a66 File:\\(\\) Line:\\(0\\)$"));
+    QVERIFY2(warningLine.match(lines.at(1)).hasMatch(), qPrintable(lines.at(1)));
+
+    // Without the data directory the lines are lost, quietly.
+    QDir(Startup::dataDirectory()).removeRecursively();
+    Log::messageHandler(QtDebugMsg, QMessageLogContext(), QStringLiteral("lost"));
+    QVERIFY(!QFileInfo::exists(Log::filePath()));
 }
 
 void tst_Startup::secondInstance()
@@ -226,32 +191,26 @@ void tst_Startup::secondInstance()
     bool exists = true;
     Platform::MutexHandle first = Platform::createMutex(L"NORVALEX RGB.exe", &exists);
     QVERIFY(!exists);
-    Received received;
+    QList<QList<qint64>> received;
     void* listener = Platform::listenForMessages(L"NORVALEX", recordMessage, &received);
+    // Stopped on every way out: a failed check must not leave it writing to `received`.
+    const auto stop = qScopeGuard([&] {
+        Platform::stopListening(listener);
+        Platform::closeHandle(first);
+    });
 
     QProcess second;
     second.setProcessEnvironment(childEnvironment());
     second.start(panelPath(), QStringList());
     QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 10000);
-    QCOMPARE(second.exitStatus(), QProcess::NormalExit);
     QCOMPARE(second.exitCode(), 0);
-    QCOMPARE(received.count, 1);
-    QCOMPARE(received.message, 0x8101u);
-    QCOMPARE(received.wParam, std::uintptr_t(1));
-    QCOMPARE(received.lParam, std::intptr_t(1));
+    QCOMPARE(received, (QList<QList<qint64>>{{0x8101, 1, 1}}));
 
     // A busy first instance (this thread blocks and never serves its listener) does not make
     // the second one hang.
-    QElapsedTimer timer;
-    timer.start();
     second.start(panelPath(), QStringList());
     QVERIFY(second.waitForFinished(15000));
     QCOMPARE(second.exitCode(), 0);
-    QVERIFY(timer.elapsed() < 10000);
-
-    Platform::stopListening(listener);
-    Platform::closeHandle(first);
-    QVERIFY(!Platform::mutexExists(L"NORVALEX RGB.exe"));
 }
 
 void tst_Startup::runningPanelQuitsOnMessage()
@@ -265,7 +224,6 @@ void tst_Startup::runningPanelQuitsOnMessage()
     QVERIFY(Platform::mutexExists(L"NORVALEX RGB.exe"));
     Platform::sendMessage(Platform::findWindow(L"NORVALEX"), 0x8301, 1, 1);
     QVERIFY(panel.waitForFinished(10000));
-    QCOMPARE(panel.exitStatus(), QProcess::NormalExit);
     QCOMPARE(panel.exitCode(), 0);
     QVERIFY(!Platform::mutexExists(L"NORVALEX RGB.exe"));
 
@@ -274,6 +232,45 @@ void tst_Startup::runningPanelQuitsOnMessage()
         Platform::sendMessage(Platform::findWindow(L"NORVALEX RGB Control"), 0x8301, 1, 1);
         QTRY_VERIFY_WITH_TIMEOUT(!Platform::mutexExists(L"NORVALEX Control.exe"), 10000);
     }
+}
+
+// The control service starts from the given directory, in a session of its own, and is reaped
+// once it ends, so that a dead service never looks alive through its lock file.
+void tst_Startup::controlLaunch()
+{
+    QTemporaryDir dir;
+    const std::wstring directory = dir.path().toStdWString();
+    QVERIFY(!Platform::launchElevated(L"missing-service", directory));
+
+    // A stand-in that reports where and how it runs, then waits for a file before it ends.
+    QFile script(dir.filePath(QStringLiteral("stand-in")));
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\n"
+                 "cut -d' ' -f6 /proc/$$/stat > session.tmp\n"
+                 "echo $$ > pid.tmp\n"
+                 "mv session.tmp session; mv pid.tmp pid\n"
+                 "while [ ! -e end ]; do sleep 0.05; done\n");
+    script.close();
+    QVERIFY(!Platform::launchElevated(L"stand-in", directory)); // not executable yet
+    script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
+
+    QDir::setCurrent(QDir::tempPath());
+    QVERIFY(Platform::launchElevated(L"stand-in", directory));
+    const QString pidFile = dir.filePath(QStringLiteral("pid"));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), 20000);
+    auto read = [&dir](const char* name) {
+        QFile file(dir.filePath(QLatin1String(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toLongLong() : -1;
+    };
+    const qint64 pid = read("pid");
+    QVERIFY(pid > 0);
+    QCOMPARE(read("session"), pid); // started in the given directory, leading its own session
+
+    QFile end(dir.filePath(QStringLiteral("end")));
+    QVERIFY(end.open(QIODevice::WriteOnly));
+    end.close();
+    // Reaped: no zombie is left under this process.
+    QTRY_VERIFY_WITH_TIMEOUT(::kill(static_cast<pid_t>(pid), 0) != 0, 20000);
 }
 
 QTEST_MAIN(tst_Startup)

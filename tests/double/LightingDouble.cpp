@@ -1,8 +1,6 @@
 #include "LightingDouble.h"
 
-#include <cstring>
 #include <mutex>
-#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -25,9 +23,8 @@ struct Module {
 
 struct State {
     std::mutex mutex;
-    // One "Name(args)" line per call.
+    // The name of every function called.
     std::vector<std::string> calls;
-    std::string answer;
     HWData hw{};
     NotiEventData noti{};
     SettingData setting{};
@@ -43,95 +40,38 @@ State& state()
     return s;
 }
 
-template <typename... Args> std::string join(const Args&... args)
-{
-    std::ostringstream out;
-    bool first = true;
-    ((out << (first ? "" : ",") << args, first = false), ...);
-    return out.str();
-}
-
-void record(const char* name, const std::string& args)
+void record(const char* name)
 {
     std::lock_guard<std::mutex> lock(state().mutex);
-    state().calls.push_back(std::string(name) + "(" + args + ")");
+    state().calls.push_back(name);
 }
 
 // The slot's module; a slot out of range gets slot 0's.
-Module& module(const char* name, int32_t slot)
+Module& module(int32_t slot)
 {
-    record(name, join(slot));
     return state().modules[slot >= 0 && slot < NX_MODULE_COUNT ? slot : 0];
-}
-
-// The arguments of a recorded call of `function`, or nothing when the line is another's.
-bool argumentsOf(const std::string& call, const char* function, std::string* args)
-{
-    const std::size_t length = std::strlen(function);
-    if (call.compare(0, length, function) != 0 || call.size() <= length || call[length] != '(')
-        return false;
-    *args = call.substr(length + 1, call.size() - length - 2);
-    return true;
 }
 
 } // namespace
 
-NX_EXPORT void SharedDLL_init(void)
-{
-    record("SharedDLL_init", "");
-}
-
-NX_EXPORT void RegisterUIEventLightModeFunc(UIEventLightModeFunc callback)
-{
-    record("RegisterUIEventLightModeFunc", callback ? "set" : "null");
-    state().lightModeCallback = callback;
-}
-
-NX_EXPORT void RegisterUIPreviewEventFunc(UIPreviewEventFunc callback)
-{
-    record("RegisterUIPreviewEventFunc", callback ? "set" : "null");
-    state().previewCallback = callback;
-}
-
-NX_EXPORT int32_t GetValueMemorySlotNumber(int32_t index)
-{
-    record("GetValueMemorySlotNumber", join(index));
-    return index >= 0 && index < NX_MODULE_COUNT ? index : -1;
-}
-
-NX_EXPORT void SetSlotNumber(int32_t count, int32_t* order)
-{
-    std::string args = join(count);
-    for (int i = 0; order && i < count && i < NX_MODULE_COUNT; ++i)
-        args += "," + std::to_string(order[i]);
-    record("SetSlotNumber", args);
-}
-
-NX_EXPORT void SetValueLighting(int32_t slot, int32_t lightMode, int32_t colorMode,
-                                int32_t lightSpeed, bool turnOff)
-{
-    record("SetValueLighting", join(slot, lightMode, colorMode, lightSpeed, int(turnOff)));
-}
-
-NX_EXPORT void SetValueRGB(int32_t slot, COLORREF* rgb, float* bright, COLORREF singleRGB,
-                           float singleBright, int32_t count)
-{
-    std::ostringstream out;
-    out << slot << ",rgb";
-    for (int i = 0; rgb && i < count && i < NX_LED_ARRAY; ++i)
-        out << (i ? ":" : "=") << std::hex << rgb[i] << std::dec;
-    out << ",bright";
-    for (int i = 0; bright && i < count && i < NX_LED_ARRAY; ++i)
-        out << (i ? ":" : "=") << bright[i];
-    out << "," << std::hex << singleRGB << std::dec << "," << singleBright << "," << count;
-    record("SetValueRGB", out.str());
-}
-
-// The per-module getters: each records its call and answers with its field.
-#define NX_MODULE_GETTER(Type, Name, expression)                                                   \
+// Each function records its call; getters answer with their field, setters store into it.
+#define NX_MODULE_GETTER(Type, Name, field)                                                        \
     NX_EXPORT Type Name(int32_t slot)                                                              \
     {                                                                                              \
-        return module(#Name, slot).expression;                                                     \
+        record(#Name);                                                                             \
+        return module(slot).field;                                                                 \
+    }
+#define NX_GETTER(Type, Name, field)                                                               \
+    NX_EXPORT Type Name(void)                                                                      \
+    {                                                                                              \
+        record(#Name);                                                                             \
+        return state().field;                                                                      \
+    }
+#define NX_SETTER(Type, Name, field)                                                               \
+    NX_EXPORT void Name(Type value)                                                                \
+    {                                                                                              \
+        record(#Name);                                                                             \
+        state().field = value;                                                                     \
     }
 NX_MODULE_GETTER(int32_t, GetValueLightMode, lightMode)
 NX_MODULE_GETTER(int32_t, GetValueColorMode, colorMode)
@@ -142,49 +82,40 @@ NX_MODULE_GETTER(COLORREF, GetValueSingleRGB, singleRGB)
 NX_MODULE_GETTER(float*, GetValueBright, bright)
 NX_MODULE_GETTER(float, GetValueSingleBright, singleBright)
 NX_MODULE_GETTER(COLORREF*, GetValueSoftwareRGB, software)
+NX_GETTER(HWData, GetValueHWData, hw)
+NX_GETTER(NotiEventData, GetNotiEvent, noti)
+NX_GETTER(SettingData, GetSettingValue, setting)
+NX_GETTER(int32_t, GetProfile, profile)
+NX_SETTER(NotiEventData, SetNotiEvent, noti)
+NX_SETTER(SettingData, SetSettingValue, setting)
+NX_SETTER(int32_t, SetProfile, profile)
+NX_SETTER(UIEventLightModeFunc, RegisterUIEventLightModeFunc, lightModeCallback)
+NX_SETTER(UIPreviewEventFunc, RegisterUIPreviewEventFunc, previewCallback)
 
-NX_EXPORT HWData GetValueHWData(void)
+NX_EXPORT void SharedDLL_init(void)
 {
-    record("GetValueHWData", "");
-    return state().hw;
+    record("SharedDLL_init");
 }
 
-NX_EXPORT NotiEventData GetNotiEvent(void)
+NX_EXPORT int32_t GetValueMemorySlotNumber(int32_t index)
 {
-    record("GetNotiEvent", "");
-    return state().noti;
+    record("GetValueMemorySlotNumber");
+    return index >= 0 && index < NX_MODULE_COUNT ? index : -1;
 }
 
-NX_EXPORT void SetNotiEvent(NotiEventData data)
+NX_EXPORT void SetSlotNumber(int32_t, int32_t*)
 {
-    record("SetNotiEvent", join(data.reserved0, data.changedItem, int(data.loadingSwitch),
-                                data.loadingValue, data.loadingColor, data.reserved20));
-    state().noti = data;
+    record("SetSlotNumber");
 }
 
-NX_EXPORT SettingData GetSettingValue(void)
+NX_EXPORT void SetValueLighting(int32_t, int32_t, int32_t, int32_t, bool)
 {
-    record("GetSettingValue", "");
-    return state().setting;
+    record("SetValueLighting");
 }
 
-NX_EXPORT void SetSettingValue(SettingData data)
+NX_EXPORT void SetValueRGB(int32_t, COLORREF*, float*, COLORREF, float, int32_t)
 {
-    record("SetSettingValue", join(data.languageIndex, int(data.autoUpdate), int(data.autoRun),
-                                   int(data.currentLocation), int(data.reserved7)));
-    state().setting = data;
-}
-
-NX_EXPORT int32_t GetProfile(void)
-{
-    record("GetProfile", "");
-    return state().profile;
-}
-
-NX_EXPORT void SetProfile(int32_t profile)
-{
-    record("SetProfile", join(profile));
-    state().profile = profile;
+    record("SetValueRGB");
 }
 
 // --- control side -------------------------------------------------------------------------------
@@ -194,35 +125,28 @@ void Double_reset(void)
     State& s = state();
     std::lock_guard<std::mutex> lock(s.mutex);
     s.calls.clear();
-    std::memset(&s.hw, 0, sizeof s.hw);
-    std::memset(&s.noti, 0, sizeof s.noti);
-    s.setting = SettingData{0, false, false, false, 0};
+    s.hw = HWData{};
+    s.noti = NotiEventData{};
+    s.setting = SettingData{};
     for (Module& m : s.modules)
         m = Module{};
     s.profile = 0;
 }
 
-void Double_setHWData(const HWData* data)
+HWData* Double_hw(void)
 {
-    state().hw = *data;
+    return &state().hw;
 }
 
-void Double_setNotiEvent(const NotiEventData* data)
+SettingData* Double_setting(void)
 {
-    state().noti = *data;
-}
-
-void Double_setSetting(SettingData data)
-{
-    state().setting = data;
+    return &state().setting;
 }
 
 void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode, int32_t lightSpeed,
                         uint8_t turnOff)
 {
-    if (slot < 0 || slot >= NX_MODULE_COUNT)
-        return;
-    Module& m = state().modules[slot];
+    Module& m = module(slot);
     m.lightMode = lightMode;
     m.colorMode = colorMode;
     m.lightSpeed = lightSpeed;
@@ -231,48 +155,16 @@ void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode, int3
 
 COLORREF* Double_softwareRGB(int32_t slot)
 {
-    return state().modules[slot >= 0 && slot < NX_MODULE_COUNT ? slot : 0].software;
+    return module(slot).software;
 }
 
 int Double_callCount(const char* function)
 {
     std::lock_guard<std::mutex> lock(state().mutex);
-    std::string args;
     int count = 0;
     for (const std::string& call : state().calls)
-        count += argumentsOf(call, function, &args) ? 1 : 0;
+        count += call == function ? 1 : 0;
     return count;
-}
-
-const char* Double_calls(void)
-{
-    std::lock_guard<std::mutex> lock(state().mutex);
-    state().answer.clear();
-    for (const std::string& call : state().calls)
-        state().answer += call + "\n";
-    return state().answer.c_str();
-}
-
-const char* Double_lastCall(const char* function)
-{
-    std::lock_guard<std::mutex> lock(state().mutex);
-    std::string args;
-    state().answer.clear();
-    for (const std::string& call : state().calls) {
-        if (argumentsOf(call, function, &args))
-            state().answer = args;
-    }
-    return state().answer.c_str();
-}
-
-SettingData Double_lastSetting(void)
-{
-    return state().setting;
-}
-
-NotiEventData Double_lastNotiEvent(void)
-{
-    return state().noti;
 }
 
 void Double_fireLightModeEvent(int32_t value, int onOwnThread)
@@ -291,9 +183,4 @@ void Double_firePreviewEvent(int onOwnThread)
         std::thread(callback).join();
     else if (callback)
         callback();
-}
-
-int Double_hasCallbacks(void)
-{
-    return state().lightModeCallback && state().previewCallback ? 1 : 0;
 }

@@ -1,40 +1,27 @@
 #pragma once
 
-// Control side of the test double: what a test sets and what it reads back. The 23 lighting
-// functions themselves are exported with the names of the real library.
+// Control side of the test double; the 23 lighting functions carry the real library's names.
 
 #include "norvalex_lighting.h"
 
-#ifdef __cplusplus
 extern "C" {
-#endif
 
 #define NX_DOUBLE_EXPORT __attribute__((visibility("default")))
 
 // Forgets every recorded call and restores the default answers.
 NX_DOUBLE_EXPORT void Double_reset(void);
-NX_DOUBLE_EXPORT void Double_setHWData(const HWData* data);
-NX_DOUBLE_EXPORT void Double_setNotiEvent(const NotiEventData* data);
-NX_DOUBLE_EXPORT void Double_setSetting(SettingData data);
+// The records it answers with and the last ones it was given.
+NX_DOUBLE_EXPORT HWData* Double_hw(void);
+NX_DOUBLE_EXPORT SettingData* Double_setting(void);
 NX_DOUBLE_EXPORT void Double_setLighting(int32_t slot, int32_t lightMode, int32_t colorMode,
                                          int32_t lightSpeed, uint8_t turnOff);
 NX_DOUBLE_EXPORT COLORREF* Double_softwareRGB(int32_t slot);
 
 // Number of calls of one function since the last reset.
 NX_DOUBLE_EXPORT int Double_callCount(const char* function);
-// Every call since the last reset, one line each: "Name(arg,arg,...)".
-NX_DOUBLE_EXPORT const char* Double_calls(void);
-// The arguments of the latest call of one function, as in Double_calls, or "" when none.
-NX_DOUBLE_EXPORT const char* Double_lastCall(const char* function);
-NX_DOUBLE_EXPORT SettingData Double_lastSetting(void);
-NX_DOUBLE_EXPORT NotiEventData Double_lastNotiEvent(void);
 
 // Raise the registered callbacks, on the calling thread or on a thread of the double's own
 // (joined before returning).
 NX_DOUBLE_EXPORT void Double_fireLightModeEvent(int32_t value, int onOwnThread);
 NX_DOUBLE_EXPORT void Double_firePreviewEvent(int onOwnThread);
-NX_DOUBLE_EXPORT int Double_hasCallbacks(void);
-
-#ifdef __cplusplus
 }
-#endif

@@ -4,7 +4,10 @@
 #include "Setting_View.h"
 #include "SwitchButton.h"
 #include "Widget_Language.h"
+#include "Widget_LocationPolicy.h"
 
+#include <QCheckBox>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTranslator>
@@ -35,6 +38,18 @@ bool sent(const QSignalSpy& spy, int index, const SettingData& expected)
     return std::memcmp(&data, &expected, sizeof(SettingData)) == 0;
 }
 
+// Delivers a mouse event for a pointer at `screen` to a widget of `window`, as the window system
+// would: an event the widget ignores travels on to its parent.
+void sendMouse(QWidget* window, QWidget* widget, QEvent::Type type, QPoint screen)
+{
+    const QPoint local = screen - window->pos() - widget->mapTo(window, QPoint(0, 0));
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const Qt::MouseButtons buttons =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(Qt::LeftButton);
+    QMouseEvent event(type, local, screen, button, buttons, Qt::NoModifier);
+    QCoreApplication::instance()->notify(widget, &event);
+}
+
 } // namespace
 
 class TestSettingView : public QObject
@@ -61,9 +76,8 @@ private slots:
     void cleanup() { page.reset(); }
 
     void languageList();
-    void receivedLanguage_data();
-    void receivedLanguage();
     void switchesAndLocationRow();
+    void consentDialog();
 
 private:
     template <typename T = QWidget> T* child(const char* name)
@@ -75,64 +89,27 @@ private:
     QTranslator english;
 };
 
+// A received record is shown, not sent back, and leaves the process language alone; an index
+// out of range keeps the button's text and is sent back as received. A click outside closes the
+// list without a choice (the journey picks an entry).
 void TestSettingView::languageList()
 {
     QSignalSpy spy(page.get(), &Setting_View::changeSettingData);
-    page->setSettingData(record(5, false, true, true));
-    // A received record is shown, not sent back, and leaves the process language alone.
+    auto* button = child<QPushButton>("btn_Language");
+    page->setSettingData(record(4, false, true, true));
+    page->setSettingData(record(12, false, true, true));
+    QCOMPARE(button->text(), QStringLiteral("Français"));
     QCOMPARE(spy.count(), 0);
     QCOMPARE(currentLanguage, 0);
+    page->slot_AutoRun_Switch(false);
+    QVERIFY(sent(spy, 0, record(12, false, false, true)));
 
-    auto* button = child<QPushButton>("btn_Language");
     auto* list = child<Widget_Language>("widget_Language");
-    QSignalSpy selected(list, &Widget_Language::selectLanguage);
     QTest::mouseClick(button, Qt::LeftButton);
     QTRY_VERIFY(list->isVisible() && list->hasFocus());
     QTest::mouseClick(page.get(), Qt::LeftButton, Qt::NoModifier, QPoint(700, 480));
     QTRY_VERIFY(list->isHidden());
-    QCOMPARE(spy.count(), 0);
-
-    // Entry i selects language i, sent with the rest of the record; the list closes and the
-    // button is relabelled at once.
-    const int last = Widget_Language::kLanguageCount - 1;
-    const std::pair<int, const char*> entries[] = {{0, "English"}, {3, "Deutsch"}, {last, nullptr}};
-    for (const auto& [i, name] : entries) {
-        QTest::mouseClick(button, Qt::LeftButton);
-        QTRY_VERIFY(list->isVisible() && list->hasFocus());
-        QTest::mouseClick(list->findChild<QPushButton*>(QString::number(i)), Qt::LeftButton);
-        QCOMPARE(selected.last().at(0).toInt(), i);
-        QVERIFY(sent(spy, spy.count() - 1, record(i, false, true, true)));
-        QCOMPARE(currentLanguage, i);
-        if (name)
-            QCOMPARE(button->text(), QString::fromUtf8(name));
-        QTRY_VERIFY(list->isHidden());
-    }
-    QCOMPARE(spy.count(), 3);
-}
-
-void TestSettingView::receivedLanguage_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("en") << 0 << QStringLiteral("English");
-    QTest::newRow("fr") << 4 << QStringLiteral("Français");
-    QTest::newRow("12 keeps the text") << 12 << QStringLiteral("Français");
-    QTest::newRow("-1 keeps the text") << -1 << QStringLiteral("Français");
-}
-
-void TestSettingView::receivedLanguage()
-{
-    QFETCH(int, index);
-
-    page->setSettingData(record(4, true, true, false));
-    page->setSettingData(record(index, true, true, false));
-    QTEST(child<QPushButton>("btn_Language")->text(), "name");
-
-    // The index is kept as received and sent back with the next change.
-    QSignalSpy spy(page.get(), &Setting_View::changeSettingData);
-    page->slot_AutoRun_Switch(false);
-    QVERIFY(sent(spy, 0, record(index, true, false, false)));
+    QCOMPARE(spy.count(), 1);
 }
 
 // Each switch sends the whole record with its flag flipped; the location row needs the extended
@@ -160,7 +137,46 @@ void TestSettingView::switchesAndLocationRow()
     page->setSettingData(held);
     QVERIFY(child("switch_CurrentLocation")->isHidden() &&
             child("label_CurrentLocation")->isHidden());
-    QVERIFY(child("switch_AutoRun")->isVisible());
+}
+
+// The location consent dialog: OK reports whether the box is ticked and closes the dialog; shown
+// again, it keeps the answer. A press on the text, which the label passes on, drags the dialog
+// without a jump.
+void TestSettingView::consentDialog()
+{
+    Widget_LocationPolicy dialog;
+    dialog.move(200, 150);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QSignalSpy spy(&dialog, &Widget_LocationPolicy::sendPushOK);
+    auto* box = dialog.findChild<QCheckBox*>("check_notRemind");
+    auto* ok = dialog.findChild<QPushButton*>("btn_OK");
+    QTest::mouseClick(ok, Qt::LeftButton);
+    QVERIFY(!dialog.isVisible());
+    dialog.show();
+    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+    QTest::mouseClick(ok, Qt::LeftButton);
+    dialog.show();
+    QTest::mouseClick(ok, Qt::LeftButton);
+    QCOMPARE(spy, (QList<QVariantList>{{false}, {true}, {true}}));
+
+    QWidget* target = dialog.findChild<QWidget*>("label_Content");
+    const QPoint start = dialog.pos();
+    const QPoint offset = target->mapTo(&dialog, QPoint(160, 40));
+    // The pointer's place on the screen; dragging keeps it over the same spot of the window.
+    QPoint pointer = start + offset;
+    sendMouse(&dialog, target, QEvent::MouseButtonPress, pointer);
+    QCOMPARE(dialog.pos(), start);
+    for (const QPoint& step : {QPoint(30, 20), QPoint(-5, 12), QPoint(40, -60)}) {
+        pointer += step;
+        sendMouse(&dialog, target, QEvent::MouseMove, pointer);
+        QCOMPARE(pointer - dialog.pos(), offset);
+    }
+    sendMouse(&dialog, target, QEvent::MouseButtonRelease, pointer);
+    // After the release the pointer moves alone.
+    const QPoint released = dialog.pos();
+    sendMouse(&dialog, target, QEvent::MouseMove, pointer + QPoint(25, 25));
+    QCOMPARE(dialog.pos(), released);
 }
 
 QTEST_MAIN(TestSettingView)
