@@ -16,10 +16,9 @@ public:
     bool start()
     {
         const QString program = QStandardPaths::findExecutable(QStringLiteral("pulseaudio"));
-        if (program.isEmpty() || !dir_.isValid())
-            return false;
         const QString runtime = dir_.filePath(QStringLiteral("runtime"));
-        QDir().mkpath(runtime);
+        if (program.isEmpty() || !QDir().mkpath(runtime))
+            return false;
         QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                            QFileDevice::ExeOwner);
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -36,9 +35,7 @@ public:
                                        "auth-anonymous=1 socket=") +
                             socket(),
                         QStringLiteral("--load=module-null-sink sink_name=nxtest")});
-        if (!process_.waitForStarted())
-            return false;
-        for (int i = 0; i < 200 && !QFile::exists(socket()); ++i)
+        for (int i = 0; i < 200 && process_.waitForStarted() && !QFile::exists(socket()); ++i)
             QThread::msleep(50);
         return QFile::exists(socket());
     }

@@ -10,26 +10,23 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     orgb::PacketSplitter splitter;
-    // Feed in two pieces, so that partial headers are exercised.
-    splitter.feed(data, size / 2);
     orgb::Packet packet;
+    // Fed in two pieces, so that partial headers are exercised.
+    splitter.feed(data, size / 2);
     while (splitter.next(packet) == orgb::PacketSplitter::Status::Packet) {
     }
     splitter.feed(data + size / 2, size - size / 2);
     while (splitter.next(packet) == orgb::PacketSplitter::Status::Packet) {
     }
-
     const std::vector<uint8_t> body(data, data + size);
     std::string error;
     for (uint32_t version = 0; version <= 6; ++version) {
-        orgb::Controller controller;
-        if (orgb::decodeController(body, version, &controller, &error)) {
-            orgb::Controller again;
-            if (!orgb::decodeController(orgb::encodeController(controller, version), version,
-                                        &again, &error) ||
-                !(again == controller))
-                std::abort();
-        }
+        orgb::Controller controller, again;
+        if (orgb::decodeController(body, version, &controller, &error) &&
+            (!orgb::decodeController(orgb::encodeController(controller, version), version, &again,
+                                     &error) ||
+             !(again == controller)))
+            std::abort();
         int32_t index = 0;
         orgb::Mode mode;
         orgb::decodeModeUpdate(body, version, &index, &mode, &error);

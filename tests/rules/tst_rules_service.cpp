@@ -150,33 +150,20 @@ void TestRulesService::moduleSources()
         table += fixture::memoryDevice(d, 0x11);
     }
     machine.dmiTable(table);
-    {
-        Service service({QStringLiteral("--root"), machine.path()});
-        nxproto::HardwareInfo hardware;
-        QVERIFY(readHardware(service, hardware));
-        // The probe's findings in detail: tst_memory_probe.
-        QCOMPARE(hardware.memoryCount, 2);
-        QCOMPARE(hardware.physicalMemoryUsed, 4096);
-        QCOMPARE(hardware.memoryLoad, 25.0);
-        QCOMPARE(hardware.modules[1].modelCode, std::string("CT8G4DFRA32A"));
-        QTRY_VERIFY_WITH_TIMEOUT(
-            service.log().contains(QStringLiteral("modules: real modules from the SMBIOS table")),
-            10000);
-    }
-    // The same machine forced to the simulation, and a machine without sources.
+    Service real({QStringLiteral("--root"), machine.path()});
+    nxproto::HardwareInfo hardware;
+    QVERIFY(readHardware(real, hardware));
+    QCOMPARE(hardware.memoryCount, 2);
+    QCOMPARE(hardware.physicalMemoryUsed, 4096);
+    QCOMPARE(hardware.memoryLoad, 25.0);
+    QCOMPARE(hardware.modules[1].modelCode, std::string("CT8G4DFRA32A"));
+
+    // A machine without sources gets the simulation.
     fixture::Root none;
-    for (const QStringList& arguments :
-         {QStringList{QStringLiteral("--root"), machine.path(), QStringLiteral("--modules"),
-                      QStringLiteral("simulated")},
-          QStringList{QStringLiteral("--root"), none.path()}}) {
-        Service service(arguments);
-        nxproto::HardwareInfo hardware;
-        QVERIFY(readHardware(service, hardware));
-        QCOMPARE(hardware.memoryCount, 4);
-        QCOMPARE(hardware.modules[0].modelCode, std::string("KX44"));
-        QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("modules: simulated")),
-                                 10000);
-    }
+    Service simulated({QStringLiteral("--root"), none.path()});
+    QVERIFY(readHardware(simulated, hardware));
+    QCOMPARE(hardware.memoryCount, 4);
+    QCOMPARE(hardware.modules[0].modelCode, std::string("KX44"));
 }
 
 void TestRulesService::temperatureWarningAndShutdown()
@@ -195,16 +182,14 @@ void TestRulesService::temperatureWarningAndShutdown()
     QCOMPARE(shown.summary, QStringLiteral("CPU temperature 95 °C is above 90 °C"));
     QCOMPARE(shown.actions, (QStringList{QStringLiteral("shutdown"), QStringLiteral("Shut down")}));
     QCOMPARE(shown.hints.value(QStringLiteral("urgency")).toInt(), 2);
-    // Still hot a few checks later: no second warning, and no power-off by itself.
-    QTest::qWait(2500);
-    QCOMPARE(notifications_.shown.size(), 1);
-    QVERIFY(login_.powerOffs.isEmpty());
 
-    // Another notification's action, or another action, does nothing.
+    // Another notification's action, or another action, does nothing; the warning itself
+    // never powers off.
     notifications_.invoke(shown.id + 1, QStringLiteral("shutdown"));
     notifications_.invoke(shown.id, QStringLiteral("default"));
     notifications_.invoke(shown.id, QStringLiteral("shutdown"));
     QTRY_COMPARE_WITH_TIMEOUT(login_.powerOffs, QList<bool>{true}, 10000);
+    QCOMPARE(notifications_.shown.size(), 1);
 
     // Falling below the band withdraws the warning (the band itself: tst_rule_engine); the next
     // crossing warns again.
@@ -212,8 +197,6 @@ void TestRulesService::temperatureWarningAndShutdown()
     QTRY_COMPARE_WITH_TIMEOUT(notifications_.closed, QList<uint>{shown.id}, 10000);
     setCpuTemperature(root_, 91000);
     QTRY_COMPARE_WITH_TIMEOUT(notifications_.shown.size(), 2, 10000);
-    QTRY_VERIFY_WITH_TIMEOUT(
-        service_->log().contains(QStringLiteral("CPU temperature 91 °C is above 90 °C")), 10000);
 
     // The fan rule is kept and logged, never carried out.
     noti.fanSpeedSwitch = true;
@@ -239,60 +222,46 @@ void TestRulesService::loadRuleColoursEveryLed()
 
     // Waits for a frame in which `check` holds.
     auto waitForFrame = [&](auto check) {
-        QElapsedTimer clock;
-        clock.start();
         nxproto::Frame frame;
         nxproto::PreviewMessage message;
-        while (clock.elapsed() < 10000 &&
-               client.waitFor(nxproto::MessageType::Preview, &frame, 5000)) {
+        for (int i = 0; i < 300 && client.waitFor(nxproto::MessageType::Preview, &frame, 5000);
+             ++i) {
             if (nxproto::decodePreview(frame, message, nullptr) && check(message))
                 return true;
         }
         return false;
     };
+    // Every LED of both modules; absent modules and LEDs past a module's count stay dark.
     const auto overridden = [](const nxproto::PreviewMessage& m) {
-        for (int slot = 0; slot < 2; ++slot) {
-            for (int led = 0; led < 5; ++led) {
-                if (m.colors[slot][led] != 0x123456)
-                    return false;
-            }
-        }
-        // Absent modules and LEDs past a module's count stay dark.
-        return m.colors[0][5] == 0 && m.colors[2][0] == 0;
+        return std::all_of(&m.colors[0][0], &m.colors[0][5],
+                           [](COLORREF c) { return c == 0x123456; }) &&
+               std::equal(&m.colors[0][0], &m.colors[0][5], &m.colors[1][0]) &&
+               m.colors[0][5] == 0 && m.colors[2][0] == 0;
     };
     QVERIFY(waitForFrame(overridden));
     // The OpenRGB controllers show it too.
-    const std::vector<orgb::Color> override(5, 0x123456);
+    const auto override = orgb::encodeLedUpdate(std::vector<orgb::Color>(5, 0x123456));
     QTRY_VERIFY_WITH_TIMEOUT(orgb_.last(orgb::UpdateLeds, 1) &&
-                                 orgb_.last(orgb::UpdateLeds, 1)->body ==
-                                     orgb::encodeLedUpdate(override),
+                                 orgb_.last(orgb::UpdateLeds, 1)->body == override,
                              10000);
     // The load falls: the modules' own lighting returns.
     root_.meminfo(1000, 600);
     QVERIFY(waitForFrame([&](const nxproto::PreviewMessage& m) { return !overridden(m); }));
-    QTRY_VERIFY_WITH_TIMEOUT(service_->log().contains(QStringLiteral("memory load rule ended")),
-                             10000);
 }
 
 void TestRulesService::resumeAndAutostart()
 {
-    // The controllers were put into Direct mode and given every LED when the service started.
-    QTRY_VERIFY_WITH_TIMEOUT(orgb_.count(orgb::UpdateMode) >= 2, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(orgb_.count(orgb::UpdateMode) >= 2, 20000); // at start-up
     RawClient client;
     nxproto::StateMessage state;
     QVERIFY(service_->connect(client) && client.waitForState(&state));
 
-    // Going to sleep changes nothing; waking up sends the whole lighting out again, to the
-    // panel and to the controllers (Direct mode and every LED), on the same connection.
+    // Waking up sends the whole lighting out again, to the panel and to the controllers
+    // (Direct mode and every LED), on the same connection.
     orgb_.clearReceived();
-    login_.prepareForSleep(true);
-    QTest::qWait(300);
-    QCOMPARE(orgb_.count(orgb::UpdateMode), 0);
     login_.prepareForSleep(false);
     QVERIFY(client.waitForState(&state, 0, 10000));
     QCOMPARE(state.changes, uint32_t(nxproto::ChangeAll));
-    QTRY_VERIFY_WITH_TIMEOUT(service_->log().contains(QStringLiteral("re-applying the lighting")),
-                             10000);
     QTRY_COMPARE_WITH_TIMEOUT(orgb_.count(orgb::UpdateMode), 2, 10000);
     QTRY_VERIFY_WITH_TIMEOUT(orgb_.last(orgb::UpdateLeds, 0) && orgb_.last(orgb::UpdateLeds, 1),
                              10000);
