@@ -1,5 +1,5 @@
-// The service's SDK server, run for real: hostile packets are shut out, a second service drives
-// the first through --output=openrgb, and the openrgb-sdk npm client talks to it.
+// The service's SDK server, run for real: a second service drives the first through its
+// "output" setting, hostile packets are shut out, and the openrgb-sdk npm client talks to it.
 
 #include "ControllerData.h"
 #include "Messages.h"
@@ -63,44 +63,10 @@ class TestOpenRgbService : public QObject
     Q_OBJECT
 
 private slots:
-    void hostilePacketsCloseOnlyTheirConnection();
     void serviceDrivesService();
     void serverTellsOfDeviceListChanges();
-    void npmClient();
+    void sdkClients();
 };
-
-void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection()
-{
-    std::vector<uint8_t> leds = orgb::encodeLedUpdate({1, 2});
-    leds[0] = 99; // data_size disagrees
-    std::vector<uint8_t> huge = orgb::encodePacket(0, orgb::UpdateLeds);
-    huge[14] = 0x20; // 2 MiB body announced
-    QByteArray magic = bytesOf(orgb::encodePacket(0, orgb::RequestControllerCount));
-    magic[0] = 'X';
-    const QByteArray packets[] = {
-        magic, bytesOf(orgb::encodePacket(0, orgb::UpdateLeds, leds)), bytesOf(huge),
-        bytesOf(orgb::encodePacket(2, orgb::UpdateLeds, orgb::encodeLedUpdate({1}))),
-        bytesOf(
-            orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)))};
-
-    const quint16 port = freePort();
-    ServiceProcess service(dir("h/run"), dir("h/config"));
-    QVERIFY(service.start(
-        {sdkArgument(port), QStringLiteral("--modules=2"), QStringLiteral("--leds=5")}));
-    SdkProbe bystander;
-    QVERIFY(bystander.connectTo(port));
-    for (const QByteArray& packet : packets) {
-        SdkProbe attacker;
-        QVERIFY(attacker.connectTo(port));
-        attacker.sendBytes(packet);
-        QVERIFY2(attacker.waitForClose(), packet.toHex().constData());
-        bystander.send(0, orgb::RequestControllerCount);
-        orgb::Packet answer;
-        QVERIFY(bystander.waitFor(orgb::RequestControllerCount, &answer));
-        QCOMPARE(answer.body, orgb::encodeU32(2));
-    }
-    QVERIFY(service.terminate());
-}
 
 void TestOpenRgbService::serviceDrivesService()
 {
@@ -183,7 +149,7 @@ void TestOpenRgbService::serviceDrivesService()
         10000));
 
     // A's server going away leaves B running and reporting (the modules' time stamp stops:
-    // tst_openrgb_output).
+    // tst_orgb_protocol).
     QVERIFY(a.terminate());
     nxproto::Frame frame;
     QVERIFY(panelB.waitFor(nxproto::MessageType::Hardware, &frame, 5000));
@@ -220,18 +186,44 @@ void TestOpenRgbService::serverTellsOfDeviceListChanges()
     QTRY_COMPARE(server.sessionCount(), 0);
 }
 
-void TestOpenRgbService::npmClient()
+void TestOpenRgbService::sdkClients()
 {
+    const quint16 port = freePort();
+    ServiceProcess service(dir("n/run"), dir("n/config"));
+    QVERIFY(service.start(
+        {sdkArgument(port), QStringLiteral("--modules=3"), QStringLiteral("--leds=8")}));
+
+    // Hostile packets close their own connection only.
+    std::vector<uint8_t> leds = orgb::encodeLedUpdate({1, 2});
+    leds[0] = 99; // data_size disagrees
+    std::vector<uint8_t> huge = orgb::encodePacket(0, orgb::UpdateLeds);
+    huge[14] = 0x20; // 2 MiB body announced
+    QByteArray magic = bytesOf(orgb::encodePacket(0, orgb::RequestControllerCount));
+    magic[0] = 'X';
+    const QByteArray packets[] = {
+        magic, bytesOf(orgb::encodePacket(0, orgb::UpdateLeds, leds)), bytesOf(huge),
+        bytesOf(orgb::encodePacket(3, orgb::UpdateLeds, orgb::encodeLedUpdate({1}))),
+        bytesOf(
+            orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)))};
+    SdkProbe bystander;
+    QVERIFY(bystander.connectTo(port));
+    for (const QByteArray& packet : packets) {
+        SdkProbe attacker;
+        QVERIFY(attacker.connectTo(port));
+        attacker.sendBytes(packet);
+        QVERIFY2(attacker.waitForClose(), packet.toHex().constData());
+        bystander.send(0, orgb::RequestControllerCount);
+        orgb::Packet answer;
+        QVERIFY(bystander.waitFor(orgb::RequestControllerCount, &answer));
+        QCOMPARE(answer.body, orgb::encodeU32(3));
+    }
+
+    // The openrgb-sdk npm client, a real third-party peer.
     const QString node = QStandardPaths::findExecutable(QStringLiteral("node"));
     if (node.isEmpty())
         QSKIP("node is not installed: the openrgb-sdk client test needs Node.js");
     if (!QFile::exists(QStringLiteral(NX_NPM_DIR "/node_modules/openrgb-sdk/package.json")))
         QFAIL("openrgb-sdk is not installed in the build tree (test openrgb.npm_install)");
-
-    const quint16 port = freePort();
-    ServiceProcess service(dir("n/run"), dir("n/config"));
-    QVERIFY(service.start(
-        {sdkArgument(port), QStringLiteral("--modules=3"), QStringLiteral("--leds=8")}));
     QProcess script;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("NODE_PATH"), QStringLiteral(NX_NPM_DIR "/node_modules"));
