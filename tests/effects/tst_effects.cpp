@@ -135,6 +135,7 @@ void EffectsTest::everyModeBehaves()
                                                                  : ColorOwn;
         if (effect.speedAdjustable) {
             EffectCanvas fast(mode, colorMode), slow(mode, colorMode);
+            fast.module.speed = 0;
             slow.module.speed = 3;
             QVERIFY2(changePerFrame(slow, 0.0, 24.0) < changePerFrame(fast, 0.0, 24.0) * 0.75,
                      name);

@@ -42,7 +42,6 @@ class MusicTest : public QObject
 private slots:
     void followsTheTempo_data();
     void followsTheTempo();
-    void noSoundServer();
     void hearsTheDesktop();
 };
 
@@ -79,8 +78,9 @@ void MusicTest::followsTheTempo()
     QCOMPARE(tracker.beat(), -1.0);
 }
 
-void MusicTest::noSoundServer()
+void MusicTest::hearsTheDesktop()
 {
+    // Without a sound server the capture runs and hears nothing.
     const QByteArray saved = qgetenv("PULSE_SERVER");
     qputenv("PULSE_SERVER", "unix:/nonexistent/norvalex-test/native");
     MusicCapture capture;
@@ -90,10 +90,6 @@ void MusicTest::noSoundServer()
     QCOMPARE(capture.reading().beat, -1.0);
     capture.stop();
     qputenv("PULSE_SERVER", saved);
-}
-
-void MusicTest::hearsTheDesktop()
-{
 #ifndef NX_HAVE_PULSE
     QSKIP("built without libpulse-simple");
 #else
@@ -102,10 +98,7 @@ void MusicTest::hearsTheDesktop()
     PrivateSoundServer server;
     if (!server.start())
         QSKIP("pulseaudio is not installed");
-    const QByteArray saved = qgetenv("PULSE_SERVER");
     qputenv("PULSE_SERVER", server.address());
-
-    MusicCapture capture;
     capture.start();
     QTRY_VERIFY_WITH_TIMEOUT(capture.listening(), 10000);
 

