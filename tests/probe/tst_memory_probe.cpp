@@ -40,7 +40,6 @@ private slots:
     void sensors();
     void channelMode();
     void wholeMachine();
-    void withoutSources();
 };
 
 void TestMemoryProbe::meminfo()
@@ -94,10 +93,6 @@ void TestMemoryProbe::smbiosTables()
     QCOMPARE(int(cut.devices.size()), 1);
     QCOMPARE(cut.slotCount, 1);
     QCOMPARE(int(SmbiosMemory::decode(one + one.left(one.size() - 1)).devices.size()), 1);
-    // A length below the header size.
-    QByteArray bad = one;
-    bad[1] = 2;
-    QVERIFY(SmbiosMemory::decode(bad).devices.empty());
     // A short SMBIOS 2.3 structure (0x1B bytes) has no extended size nor configured speed.
     QByteArray old = one;
     old[1] = 0x1B;
@@ -131,15 +126,14 @@ void TestMemoryProbe::spdTimings()
         QCOMPARE(spd.rasToCas(speed), trcd);
     }
 
-    // Truncated images, other DRAM types, an undefined time base, a blank DDR5 EEPROM: nothing
-    // decoded.
-    QCOMPARE(SpdInfo::decode(ddr4.left(256)).casLatency(3200), -1);
+    // Other DRAM types, an undefined time base, truncated or blank images: nothing decoded.
     QByteArray ddr3 = ddr4;
     ddr3[2] = 0x0B;
     QVERIFY(!SpdInfo::decode(ddr3).valid());
     QByteArray otherBase = ddr4;
     otherBase[17] = 0x05;
     QVERIFY(!SpdInfo::decode(otherBase).valid());
+    QVERIFY(!SpdInfo::decode(ddr4.left(256)).valid());
     QByteArray blank(1024, '\0');
     blank[2] = 0x12;
     QCOMPARE(SpdInfo::decode(blank).casLatency(4800), -1);
@@ -238,38 +232,49 @@ void TestMemoryProbe::channelMode()
 
 void TestMemoryProbe::wholeMachine()
 {
-    // Four slots, DDR5 modules in the second and fourth, the board's dual-channel layout.
+    // Four slots, DDR5 modules in the second and fourth, the board's dual-channel layout; the
+    // second module has no part number.
     fixture::Root root;
     Device module;
     module.size = 16384;
     module.type = 0x22;
     module.configured = 4800;
-    module.part = QStringLiteral("KF560C36-32");
     QByteArray table = fixture::memoryArray(4);
     const char* const locators[] = {"DIMM_A1", "DIMM_A2", "DIMM_B1", "DIMM_B2"};
     for (int i = 0; i < 4; ++i) {
         Device d = i % 2 ? module : Device();
         d.locator = QLatin1String(locators[i]);
+        d.part = i == 1 ? QStringLiteral("KF560C36-32") : QString();
         table += fixture::memoryDevice(d, uint16_t(0x11 + i));
     }
     root.dmiTable(table + fixture::endOfTable());
+    // One EEPROM for two modules is matched to neither: no timings.
     root.eeprom("spd5118", 1, 0x51, fixture::ddr5Spd(333, 16000, 16000, evenLatencies()));
-    // The second module is slower: its timings set the memory's.
-    root.eeprom("spd5118", 1, 0x53, fixture::ddr5Spd(333, 16640, 16000, evenLatencies()));
-    root.hwmon(0, "spd5118", QStringLiteral("1-0053"), {{"temp1", "44750"}});
-    root.hwmon(1, "spd5118", QStringLiteral("1-0051"), {{"temp1", "38000"}});
-
     MemoryProbe probe(root.path());
-    QVERIFY(probe.probe());
     nxproto::HardwareInfo info;
+    QVERIFY(probe.probe());
     probe.fill(info);
     probe.readTemperatures(info);
     QCOMPARE(info.channel, 2);
-    // At 4800 (416 ps): 16.64 ns -> 40 cycles within the guard band, CL 40; 16 ns -> 39.
+    QCOMPARE(info.frequency, 4800.0);
+    QCOMPARE(info.casLatency, -1.0);
+    QCOMPARE(info.modules[1].temperature, -1);
+    QCOMPARE(info.modules[3].modelCode, std::string("N/A"));
+
+    // Both EEPROMs: the slower module's timings set the memory's, and the module without a part
+    // number takes its SPD's. At 4800 (416 ps): 16.64 ns -> 40 cycles within the guard band,
+    // CL 40; 16 ns -> 39.
+    root.eeprom("spd5118", 1, 0x53, fixture::ddr5Spd(333, 16640, 16000, evenLatencies(), "SPD"));
+    root.hwmon(0, "spd5118", QStringLiteral("1-0053"), {{"temp1", "44750"}});
+    root.hwmon(1, "spd5118", QStringLiteral("1-0051"), {{"temp1", "38000"}});
+    QVERIFY(probe.probe());
+    probe.fill(info);
+    probe.readTemperatures(info);
     QCOMPARE(info.casLatency, 40.0);
     QCOMPARE(info.tRCD, 39);
     QVERIFY(!info.modules[2].present);
-    QCOMPARE(info.modules[3].modelCode, std::string("KF560C36-32"));
+    QCOMPARE(info.modules[1].modelCode, std::string("KF560C36-32"));
+    QCOMPARE(info.modules[3].modelCode, std::string("SPD"));
     QCOMPARE(info.modules[3].ledNum, -1); // nothing lights it
     QCOMPARE(info.modules[1].temperature, 38);
     QCOMPARE(info.modules[3].temperature, 45);
@@ -279,38 +284,6 @@ void TestMemoryProbe::wholeMachine()
     probe.readTemperatures(info);
     QCOMPARE(info.modules[1].temperature, -1);
     QCOMPARE(info.modules[3].temperature, 45);
-}
-
-void TestMemoryProbe::withoutSources()
-{
-    // SMBIOS only: sizes and speed, but no timings nor temperatures, and one EEPROM for two
-    // modules is not matched to either.
-    fixture::Root root;
-    Device d;
-    d.size = 8192;
-    d.configured = 3200;
-    d.locator = QStringLiteral("ChannelA-DIMM0");
-    Device e = d;
-    e.locator = QStringLiteral("ChannelB-DIMM0");
-    root.dmiTable(fixture::memoryArray(2) + fixture::memoryDevice(d, 0x11) +
-                  fixture::memoryDevice(e, 0x12));
-    const QByteArray spd = fixture::ddr4Spd(625, 13750, 13750, 1u << 15, "FROM-SPD");
-    root.eeprom("ee1004", 0, 0x50, spd);
-    MemoryProbe probe(root.path());
-    QVERIFY(probe.probe());
-    nxproto::HardwareInfo info;
-    probe.fill(info);
-    probe.readTemperatures(info);
-    QCOMPARE(info.frequency, 3200.0);
-    QCOMPARE(info.casLatency, -1.0);
-    QCOMPARE(info.modules[0].temperature, -1);
-    QCOMPARE(info.modules[1].modelCode, std::string("N/A"));
-    // With the second EEPROM both match, and a module without a part number takes the SPD's.
-    root.eeprom("ee1004", 0, 0x51, spd);
-    QVERIFY(probe.probe());
-    probe.fill(info);
-    QCOMPARE(info.casLatency, 22.0);
-    QCOMPARE(info.modules[1].modelCode, std::string("FROM-SPD"));
 }
 
 QTEST_GUILESS_MAIN(TestMemoryProbe)

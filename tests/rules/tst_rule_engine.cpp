@@ -48,8 +48,7 @@ private slots:
     void temperatureCrossings();
     void fahrenheitAndInvalidThresholds();
     void loadOverride();
-    void autostartEntry();
-    void serviceOptions();
+    void serviceOptionsAndAutostart();
 };
 
 void TestRuleEngine::temperatureCrossings()
@@ -141,23 +140,12 @@ void TestRuleEngine::loadOverride()
     QVERIFY(engine.check(rules, cpuAt(99)).empty());
 }
 
-void TestRuleEngine::autostartEntry()
+void TestRuleEngine::serviceOptionsAndAutostart()
 {
-    // Reserved characters are quoted for the Exec key.
+    // Reserved characters of the panel's path are quoted for the autostart entry's Exec key.
     QVERIFY(AutostartEntry::content(QStringLiteral("/a$b/100%/c\"d"))
                 .contains("\nExec=\"/a\\\\$b/100%%/c\\\\\"d\" --background\n"));
-    // A folder in the entry's place cannot be replaced: reported, not hidden.
-    QStandardPaths::setTestModeEnabled(true);
-    QString error;
-    QDir().mkpath(AutostartEntry::path());
-    QVERIFY(!AutostartEntry::apply(true, QStringLiteral("norvalex-rgb"), &error));
-    QVERIFY(!error.isEmpty());
-    QDir(AutostartEntry::path()).removeRecursively();
-    QVERIFY(AutostartEntry::apply(false, QString(), &error)); // already gone
-}
 
-void TestRuleEngine::serviceOptions()
-{
     QString message;
     const auto parse = [&message](ServiceOptions* options, const QStringList& arguments) {
         bool exitNow = false;

@@ -126,7 +126,7 @@ void TestRulesService::initTestCase()
 
 void TestRulesService::moduleSources()
 {
-    // Two modules the probe finds: reported with their part numbers.
+    // Two modules the probe finds: reported with their part numbers and timings.
     fixture::Root machine;
     machine.meminfo(16777216, 12582912);
     fixture::Device d;
@@ -136,12 +136,16 @@ void TestRulesService::moduleSources()
     QByteArray table = fixture::memoryArray(2) + fixture::memoryDevice(d, 0x11);
     d.locator = QStringLiteral("ChannelB-DIMM0");
     machine.dmiTable(table + fixture::memoryDevice(d, 0x12));
+    const QByteArray spd = fixture::ddr4Spd(625, 13750, 13750, 1u << 15);
+    machine.eeprom("ee1004", 0, 0x50, spd);
+    machine.eeprom("ee1004", 0, 0x51, spd);
     nxproto::HardwareInfo hardware;
     QVERIFY(Service(machine.path()).readHardware(hardware));
     QCOMPARE(hardware.memoryCount, 2);
     QCOMPARE(hardware.physicalMemoryUsed, 4096);
     QCOMPARE(hardware.memoryLoad, 25.0);
     QCOMPARE(hardware.modules[1].modelCode, std::string("CT8G4DFRA32A"));
+    QCOMPARE(hardware.casLatency, 22.0);
 
     // A machine without sources gets the simulation.
     fixture::Root none;
