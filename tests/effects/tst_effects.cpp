@@ -147,15 +147,12 @@ void EffectsTest::everyModeBehaves()
             QVERIFY2(first >= 0 && firstLit(canvas, 3) > first, name);
         }
         if (effect.colorModes & OffersRandom) {
-            EffectCanvas first(mode, ColorRandom), again(mode, ColorRandom),
-                other(mode, ColorRandom);
-            first.scene.seed = again.scene.seed = 42;
-            other.scene.seed = 43;
+            // Another seed, other colours (the same seed repeats its frames, as checked above).
+            EffectCanvas first(mode, ColorRandom), other(mode, ColorRandom);
+            other.scene.seed = first.scene.seed + 1;
             bool differs = false;
-            for (double t = 0; t < 6; t += 0.37) {
-                QVERIFY2(first.frame(t) == again.frame(t), name);
-                differs = differs || first.frame(t) != other.frame(t);
-            }
+            for (double t = 0; t < 6 && !differs; t += 0.37)
+                differs = first.frame(t) != other.frame(t);
             QVERIFY2(differs, name);
         }
     }
