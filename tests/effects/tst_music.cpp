@@ -40,21 +40,13 @@ class MusicTest : public QObject
     Q_OBJECT
 
 private slots:
-    void followsTheTempo_data();
     void followsTheTempo();
     void hearsTheDesktop();
 };
 
-void MusicTest::followsTheTempo_data()
-{
-    QTest::addColumn<double>("bpm");
-    QTest::newRow("90") << 90.0;
-    QTest::newRow("150") << 150.0;
-}
-
 void MusicTest::followsTheTempo()
 {
-    QFETCH(double, bpm);
+    const double bpm = 150; // not the 120 the effects fall back to
     BeatTracker tracker(kRate);
     // Eight seconds and half a beat, fed in odd-sized pieces as a sound server delivers them.
     const std::vector<float> audio = drums(bpm, 8.0 + 30.0 / bpm);

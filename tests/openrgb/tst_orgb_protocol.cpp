@@ -32,17 +32,12 @@ orgb::Controller richController()
 
 const char* const kLocations[] = {"address 0x40", "address 0x73", "address 0x71", "address 0x70"};
 
-// Controller `index` of the server; `lying` gets a data_size that disagrees with its packet.
-FakeOrgbServer::Describe recorded(uint32_t lying = 99)
+// Controller `index` of the server, the first a motherboard.
+std::vector<uint8_t> recorded(uint32_t index, uint32_t version)
 {
-    return [lying](uint32_t index, uint32_t version) {
-        std::vector<uint8_t> body = recordedDram(version, kLocations[index % 4], 5);
-        if (index == 0)
-            body[4] = 0; // a motherboard
-        if (index == lying)
-            body[0] += 7;
-        return body;
-    };
+    std::vector<uint8_t> body = recordedDram(version, kLocations[index], 5);
+    body[4] = index ? body[4] : 0;
+    return body;
 }
 
 struct Frame {
@@ -86,7 +81,6 @@ private slots:
     void outputConversation_data();
     void outputConversation();
     void outputReconnectsAndFollowsTheList();
-    void outputRefusesLyingServer();
 };
 
 void TestOrgbProtocol::splitterReassembles()
@@ -124,10 +118,10 @@ void TestOrgbProtocol::controllerData()
     // The layouts a server sends at protocol 3 to 5, read and written byte for byte.
     const char* location = "I2C: /dev/i2c-1, address 0x71";
     for (uint32_t version : {3u, 4u, 5u}) {
-        const std::vector<uint8_t> recorded = recordedDram(version, location, 5);
-        QVERIFY2(orgb::decodeController(recorded, version, &got, &error), error.c_str());
+        const std::vector<uint8_t> bytes = recordedDram(version, location, 5);
+        QVERIFY2(orgb::decodeController(bytes, version, &got, &error), error.c_str());
         QVERIFY(got == expectedDram(location, 5));
-        QVERIFY(orgb::encodeController(got, version) == recorded);
+        QVERIFY(orgb::encodeController(got, version) == bytes);
     }
 }
 
@@ -248,7 +242,7 @@ void TestOrgbProtocol::outputConversation()
 {
     QFETCH(uint, serverVersion);
     QFETCH(uint, expected);
-    FakeOrgbServer server(serverVersion, 3, recorded());
+    FakeOrgbServer server(serverVersion, 3, recorded);
     OpenRgbOutput output(QStringLiteral("127.0.0.1"), server.port());
     output.start();
     QTRY_VERIFY_WITH_TIMEOUT(output.connected(), 10000);
@@ -295,20 +289,16 @@ void TestOrgbProtocol::outputConversation()
     server.clearReceived();
     QElapsedTimer clock;
     clock.start();
-    for (COLORREF i = 0; clock.elapsed() < 600; ++i) {
-        output.showFrame(frameOf(i * 64).c);
-        QTest::qWait(2);
-    }
+    for (COLORREF i = 0; clock.elapsed() < 600; QTest::qWait(2))
+        output.showFrame(frameOf(++i * 64).c);
     QTest::qWait(100);
     const int perDevice = server.count(orgb::UpdateLeds) / 2;
-    QVERIFY2(perDevice <= clock.elapsed() * OpenRgbOutput::kMaxFps / 1000 + 2,
-             qPrintable(QString::number(perDevice)));
-    QVERIFY(perDevice >= 3);
+    QVERIFY(perDevice >= 3 && perDevice <= clock.elapsed() * OpenRgbOutput::kMaxFps / 1000 + 2);
 }
 
 void TestOrgbProtocol::outputReconnectsAndFollowsTheList()
 {
-    FakeOrgbServer server(4, 3, recorded());
+    FakeOrgbServer server(4, 3, recorded);
     const quint16 port = server.port();
     OpenRgbOutput output(QStringLiteral("127.0.0.1"), port);
     output.start();
@@ -344,16 +334,6 @@ void TestOrgbProtocol::outputReconnectsAndFollowsTheList()
     QTRY_VERIFY(output.connected() && output.modules().size() == 3);
     QCOMPARE(output.modules()[0].device, 3u);
     QTRY_VERIFY(server.last(orgb::UpdateMode, 3) != nullptr);
-}
-
-void TestOrgbProtocol::outputRefusesLyingServer()
-{
-    FakeOrgbServer server(4, 3, recorded(1));
-    OpenRgbOutput output(QStringLiteral("127.0.0.1"), server.port());
-    output.start();
-    QTRY_VERIFY_WITH_TIMEOUT(server.connections() >= 2, 20000); // closed and tried again
-    QVERIFY(!output.connected() && output.modules().empty());
-    QCOMPARE(server.count(orgb::UpdateLeds), 0);
 }
 
 QTEST_GUILESS_MAIN(TestOrgbProtocol)

@@ -193,38 +193,17 @@ void TestRulesService::loadRuleColoursEveryLed()
     nxproto::StateMessage state;
     QVERIFY(service_->connect(client) && client.waitForState(&state));
     QVERIFY(client.waitForState(&state, client.send(notification(false, true, false)), 5000));
-    nxproto::Request preview;
-    preview.type = nxproto::MessageType::SetPreview;
-    preview.preview = true;
-    client.send(preview);
-
-    // Waits for a frame in which `check` holds.
-    auto waitForFrame = [&](auto check) {
-        nxproto::Frame frame;
-        nxproto::PreviewMessage message;
-        for (int i = 0; i < 300 && client.waitFor(nxproto::MessageType::Preview, &frame, 5000);
-             ++i) {
-            if (nxproto::decodePreview(frame, message, nullptr) && check(message))
-                return true;
-        }
-        return false;
-    };
-    // Every LED of both modules; absent modules and LEDs past a module's count stay dark.
-    const auto overridden = [](const nxproto::PreviewMessage& m) {
-        return std::all_of(&m.colors[0][0], &m.colors[0][5],
-                           [](COLORREF c) { return c == 0x123456; }) &&
-               std::equal(&m.colors[0][0], &m.colors[0][5], &m.colors[1][0]) &&
-               m.colors[0][5] == 0 && m.colors[2][0] == 0;
-    };
-    QVERIFY(waitForFrame(overridden));
-    // The OpenRGB controllers show it too.
+    // Every LED of both controllers takes the rule's colour; when the load falls, their own
+    // lighting returns.
     const auto override = orgb::encodeLedUpdate(std::vector<orgb::Color>(5, 0x123456));
-    QTRY_VERIFY_WITH_TIMEOUT(orgb_.last(orgb::UpdateLeds, 1) &&
-                                 orgb_.last(orgb::UpdateLeds, 1)->body == override,
-                             10000);
-    // The load falls: the modules' own lighting returns.
+    const auto overridden = [&] {
+        const orgb::Packet* first = orgb_.last(orgb::UpdateLeds, 0);
+        const orgb::Packet* second = orgb_.last(orgb::UpdateLeds, 1);
+        return first && second && first->body == override && second->body == override;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(overridden(), 10000);
     root_.meminfo(1000, 600);
-    QVERIFY(waitForFrame([&](const nxproto::PreviewMessage& m) { return !overridden(m); }));
+    QTRY_VERIFY_WITH_TIMEOUT(!overridden(), 10000);
 }
 
 void TestRulesService::resumeAndAutostart()
