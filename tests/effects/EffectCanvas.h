@@ -22,7 +22,6 @@ struct EffectCanvas {
         module.single = 0x20C0FF;
     }
 
-    // Every LED, module after module.
     std::vector<nxfx::Color> frame(double seconds)
     {
         std::vector<nxfx::Color> out(std::size_t(modules * leds));

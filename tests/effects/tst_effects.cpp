@@ -14,7 +14,6 @@ namespace {
 
 constexpr double kFrame = 1.0 / 30.0;
 
-// Mean change per frame over a stretch of 30 fps frames.
 double changePerFrame(EffectCanvas& canvas, double from, double seconds)
 {
     const int frames = int(seconds / kFrame);
@@ -33,7 +32,6 @@ bool allBlack(const std::vector<Color>& frame)
     return std::all_of(frame.begin(), frame.end(), [](Color c) { return c == 0; });
 }
 
-// The first time a column shows a bright LED, or -1.
 double firstLit(EffectCanvas& canvas, int column)
 {
     for (double t = 0; t < 10; t += kFrame / 2) {

@@ -100,7 +100,6 @@ void MusicTest::hearsTheDesktop()
                                       "drums", &sampleFormat, nullptr, nullptr, &error);
     QVERIFY(player);
     const std::vector<float> audio = drums(120, 6.0);
-    // Written a tenth of a second at a time: the server takes it at the pace it plays.
     double loudest = 0;
     for (std::size_t at = 0; at < audio.size(); at += kRate / 10) {
         QVERIFY(

@@ -23,7 +23,6 @@ inline void writeTo(QIODevice* device, const std::vector<uint8_t>& bytes)
 class FakeOrgbServer : public QObject
 {
 public:
-    // Controller data for (index, requested version).
     using Describe = std::function<std::vector<uint8_t>(uint32_t index, uint32_t version)>;
 
     FakeOrgbServer(uint32_t version, uint32_t count, Describe describe)

@@ -161,7 +161,6 @@ void TestOpenRgbService::sdkClients()
     magic[0] = 'X';
     const QByteArray packets[] = {
         magic, bytesOf(orgb::encodePacket(0, orgb::UpdateLeds, leds)), bytesOf(huge),
-        bytesOf(orgb::encodePacket(3, orgb::UpdateLeds, orgb::encodeLedUpdate({1}))),
         bytesOf(
             orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)))};
     SdkProbe bystander;

@@ -16,7 +16,6 @@
 
 namespace fixture {
 
-// `bytes` little-endian bytes of `v` at `offset`.
 inline void put(QByteArray& b, int offset, uint32_t v, int bytes)
 {
     for (int i = 0; i < bytes; ++i)
@@ -36,7 +35,7 @@ inline QByteArray structure(uint8_t type, int length, uint16_t handle,
     return s + (strings.isEmpty() ? QByteArray(2, '\0') : QByteArray(1, '\0'));
 }
 
-// Type 16, system memory, with `count` devices.
+// Type 16, system memory.
 inline QByteArray memoryArray(int count)
 {
     QByteArray s = structure(16, 0x17, 0x1000);
@@ -117,7 +116,6 @@ inline QByteArray ddr5Spd(int tckPs, int taaPs, int trcdPs, const QList<int>& la
     return b.replace(521, 30, part.leftJustified(30, ' '));
 }
 
-// A fake root folder.
 class Root
 {
 public:

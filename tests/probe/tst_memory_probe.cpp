@@ -1,5 +1,5 @@
-// The probe against a fake root built from the public layouts: meminfo, SMBIOS, the DMI cache,
-// SPD timings, sensors, channel mode and the whole machine.
+// The probe against a fake root built from the public layouts: SMBIOS and channel mode, SPD
+// timings, the DMI cache, meminfo and sensors, and the whole machine.
 
 #include "ChannelMode.h"
 #include "DmiCache.h"
@@ -33,29 +33,12 @@ class TestMemoryProbe : public QObject
     Q_OBJECT
 
 private slots:
-    void meminfo();
     void smbiosTables();
     void dmiCache();
     void spdTimings();
-    void sensors();
-    void channelMode();
+    void readings();
     void wholeMachine();
 };
-
-void TestMemoryProbe::meminfo()
-{
-    // (1000 - 334) / 1000 = 66.6 % rounds to 67; the others are not read.
-    const std::tuple<const char*, double, int> cases[] = {
-        {"MemAvailable: 334 kB\nMemTotal: 1000 kB\n", 67.0, 0},
-        {"MemTotal: 1000 kB\nMemAvailable: 2000 kB\n", -1.0, -1},
-        {"MemTotal: lots\nMemAvailable: 1 kB\n", -1.0, -1}};
-    for (const auto& [text, load, usedMB] : cases) {
-        QCOMPARE(MemInfo::parse(text).load, load);
-        QCOMPARE(MemInfo::parse(text).usedMB, usedMB);
-    }
-    fixture::Root missing;
-    QCOMPARE(MemInfo::read(missing.path()).usedMB, -1);
-}
 
 void TestMemoryProbe::smbiosTables()
 {
@@ -83,19 +66,31 @@ void TestMemoryProbe::smbiosTables()
                                 "0 -1  -1  ChannelA-DIMM1 ", "1 49152 DDR5 8000  DIMM_B1 ",
                                 "1 16 LPDDR5 6400   ", "1 -1  -1   "}));
 
-    // A truncated second structure ends the walk, the first is kept, and without type 16 the
-    // slots are counted from the devices.
     Device plain;
     plain.configured = 4800;
-    const QByteArray one = fixture::memoryDevice(plain, 0x11);
-    const SmbiosMemory cut = SmbiosMemory::decode(one + one.left(30));
-    QCOMPARE(int(cut.devices.size()), 1);
-    QCOMPARE(cut.slotCount, 1);
     // A short SMBIOS 2.3 structure (0x1B bytes) has no extended size nor configured speed.
-    QByteArray old = one;
+    QByteArray old = fixture::memoryDevice(plain, 0x11);
     old[1] = 0x1B;
     old.remove(0x1B, 0x5C - 0x1B);
     QCOMPARE(SmbiosMemory::decode(old).devices.at(0).speedMTs, -1);
+
+    // Locators as "locator|bank", empty for an empty slot; board names: wholeMachine.
+    const std::pair<QStringList, int> cases[] = {
+        {{"ChannelA-DIMM0|BANK 0", "", "ChannelB-DIMM0|BANK 2", ""}, 2},
+        {{"ChannelA-DIMM0|BANK 0", "ChannelA-DIMM1|BANK 1"}, 1},
+        {{"DIMM 1|P0 CHANNEL A", "DIMM 1|P0 CHANNEL B"}, 2},
+        {{"DIMM 0|BANK 0", "DIMM 1|BANK 1"}, -1}};
+    for (const auto& [locators, channels] : cases) {
+        SmbiosMemory layout;
+        for (const QString& entry : locators) {
+            MemoryDevice device;
+            device.present = !entry.isEmpty();
+            device.locator = entry.section(QLatin1Char('|'), 0, 0);
+            device.bankLocator = entry.section(QLatin1Char('|'), 1, 1);
+            layout.devices.push_back(device);
+        }
+        QCOMPARE(ChannelMode::populatedChannels(layout), channels);
+    }
 }
 
 void TestMemoryProbe::spdTimings()
@@ -172,8 +167,20 @@ void TestMemoryProbe::dmiCache()
     QVERIFY(!DmiCache::fromJson("{\"format\":2,\"devices\":[]}", &loaded));
 }
 
-void TestMemoryProbe::sensors()
+void TestMemoryProbe::readings()
 {
+    // (1000 - 334) / 1000 = 66.6 % rounds to 67; the others are not read.
+    const std::tuple<const char*, double, int> meminfo[] = {
+        {"MemAvailable: 334 kB\nMemTotal: 1000 kB\n", 67.0, 0},
+        {"MemTotal: 1000 kB\nMemAvailable: 2000 kB\n", -1.0, -1},
+        {"MemTotal: lots\nMemAvailable: 1 kB\n", -1.0, -1}};
+    for (const auto& [text, load, usedMB] : meminfo) {
+        QCOMPARE(MemInfo::parse(text).load, load);
+        QCOMPARE(MemInfo::parse(text).usedMB, usedMB);
+    }
+    fixture::Root missing;
+    QCOMPARE(MemInfo::read(missing.path()).usedMB, -1);
+
     fixture::Root root;
     root.hwmon(0, "acpitz", {}, {{"temp1", "27800"}});
     root.hwmon(1, "jc42", QStringLiteral("0-0019"), {{"temp1", "41250"}});
@@ -203,27 +210,6 @@ void TestMemoryProbe::sensors()
         root.hwmon(1, names[i], {}, cases[i].first);
         root.hwmon(2, "jc42", QStringLiteral("0-0018"), {{"temp1", "40000"}});
         QCOMPARE(Hwmon::cpuTemperature(root.path()).value_or(-99), cases[i].second);
-    }
-}
-
-void TestMemoryProbe::channelMode()
-{
-    // Locators as "locator|bank", empty for an empty slot; board names: wholeMachine.
-    const std::pair<QStringList, int> cases[] = {
-        {{"ChannelA-DIMM0|BANK 0", "", "ChannelB-DIMM0|BANK 2", ""}, 2},
-        {{"ChannelA-DIMM0|BANK 0", "ChannelA-DIMM1|BANK 1"}, 1},
-        {{"DIMM 1|P0 CHANNEL A", "DIMM 1|P0 CHANNEL B"}, 2},
-        {{"DIMM 0|BANK 0", "DIMM 1|BANK 1"}, -1}};
-    for (const auto& [locators, channels] : cases) {
-        SmbiosMemory memory;
-        for (const QString& entry : locators) {
-            MemoryDevice device;
-            device.present = !entry.isEmpty();
-            device.locator = entry.section(QLatin1Char('|'), 0, 0);
-            device.bankLocator = entry.section(QLatin1Char('|'), 1, 1);
-            memory.devices.push_back(device);
-        }
-        QCOMPARE(ChannelMode::populatedChannels(memory), channels);
     }
 }
 

@@ -93,8 +93,7 @@ void TestRuleEngine::fahrenheitAndInvalidThresholds()
     QCOMPARE(RuleEngine::describe(events.at(0)),
              QStringLiteral("Memory temperature 177 °F is above 176 °F"));
 
-    // Out of the panel's range or an unknown unit: reported once, never fires; made valid
-    // while above, the warning comes at once.
+    // Out of the panel's range or an unknown unit: reported once, never fires.
     readings.memoryTemperature = 500.0;
     for (const auto& bad : {std::pair<int, int>{1001, 0}, {60, 2}}) {
         RuleEngine fresh;
@@ -102,9 +101,6 @@ void TestRuleEngine::fahrenheitAndInvalidThresholds()
         rules.shutdownMemoryUnit = bad.second;
         QCOMPARE(kinds(fresh.check(rules, readings)), QList<Event::Kind>{Event::Ignored});
         QVERIFY(fresh.check(rules, readings).empty());
-        rules.shutdownMemoryValue = 100;
-        rules.shutdownMemoryUnit = 0;
-        QCOMPARE(kinds(fresh.check(rules, readings)), QList<Event::Kind>{Event::Raised});
     }
 }
 
@@ -142,10 +138,9 @@ void TestRuleEngine::serviceOptionsAndAutostart()
                               &exitNow);
     };
     ServiceOptions options, none;
-    QVERIFY(parse(&options, {"--sdk-server", "--output=openrgb", "--modules=simulated"}));
+    QVERIFY(parse(&options, {"--sdk-server", "--output=openrgb"}));
     QCOMPARE(options.sdkServerHost + QStringLiteral(":%1").arg(options.sdkServerPort),
              QStringLiteral("127.0.0.1:6743"));
-    QVERIFY(options.moduleMode == ServiceOptions::ModuleMode::Simulated);
     // The option overrides the stored output for the run.
     SimulationConfig stored;
     stored.output = "openrgb:stored:1";
