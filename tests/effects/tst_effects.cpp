@@ -43,9 +43,8 @@ double firstLit(EffectCanvas& canvas, int column)
     return -1;
 }
 
-// Reads the clock as a person would: the bottom four LEDs of each column as bits, amber for
-// hours and cyan for minutes, a page at a time on a narrow canvas. -1 when a digit shows in the
-// wrong colour.
+// Reads the clock as a person would: the bottom four LEDs of a column as bits, amber hours and
+// cyan minutes, a page at a time on a narrow canvas; -1 for a digit in the wrong colour.
 int readClock(int modules, int leds, int hour, int minute)
 {
     EffectCanvas canvas(31, ColorOwn);

@@ -59,8 +59,7 @@ void MusicTest::followsTheTempo()
     const double fraction = tracker.beat() - std::floor(tracker.beat());
     QVERIFY2(fraction > 0.35 && fraction < 0.65, beat);
 
-    // Quieter music reads quieter; a long silence loses the beat, so that the effects fall
-    // back to their own tempo.
+    // Quieter music reads quieter; a long silence loses the beat (the effects' own tempo).
     const std::vector<float> quiet = drums(bpm, 0.3, 0.1f);
     tracker.feed(quiet.data(), quiet.size());
     QVERIFY(tracker.loudness() > 0.0 && tracker.loudness() < 0.5);
@@ -85,8 +84,7 @@ void MusicTest::hearsTheDesktop()
 #ifndef NX_HAVE_PULSE
     QSKIP("built without libpulse-simple");
 #else
-    // A real sound server of our own with one silent output; drums played into it must be
-    // heard through that output's monitor.
+    // Drums played into a sound server of our own are heard through its output's monitor.
     PrivateSoundServer server;
     if (!server.start())
         QSKIP("pulseaudio is not installed");

@@ -40,8 +40,7 @@ private:
     QByteArray bytes_;
 };
 
-// A typical SMBus DRAM controller: Direct, Static with one colour, one linear zone; as sent at
-// protocol 3 to 5.
+// A DRAM controller (Direct, Static with one colour, one linear zone) as sent at protocol 3-5.
 inline std::vector<uint8_t> recordedDram(unsigned version, const char* location, int leds)
 {
     Recording r;

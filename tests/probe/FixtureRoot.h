@@ -152,8 +152,7 @@ public:
                   .arg(address, 4, 16, QLatin1Char('0')),
               image);
     }
-    // hwmon<index> of `name`; `device` is an I2C device name or empty; temps as
-    // {"temp1", millidegrees text or "-" for none, label}.
+    // hwmon<index>, its I2C `device` if any, temps as {"temp1", millidegrees or "-", label}.
     void hwmon(int index, const QByteArray& name, const QString& device,
                const QList<QStringList>& temps)
     {

@@ -1,5 +1,4 @@
-// The rules' decisions, readings in, events and the load colour out; the autostart entry; the
-// service's command line.
+// The rules' decisions from the readings; the autostart entry; the service's command line.
 
 #include "AutostartEntry.h"
 #include "RuleEngine.h"
