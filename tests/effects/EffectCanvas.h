@@ -22,25 +22,18 @@ struct EffectCanvas {
         module.single = 0x20C0FF;
     }
 
-    // Every LED, module after module.
     std::vector<nxfx::Color> frame(double seconds)
     {
         std::vector<nxfx::Color> out(std::size_t(modules * leds));
-        scene.seconds = seconds;
-        scene.second = seconds;
+        scene.seconds = scene.second = seconds;
         scene.columns = modules;
-        for (int m = 0; m < modules; ++m)
-            renderOne(m, &out[std::size_t(m * leds)]);
-        return out;
-    }
-    void renderOne(int column, nxfx::Color* out)
-    {
         nxfx::ModuleInput input = module;
         input.ledCount = leds;
         input.colors = colors;
         input.brightness = brightness;
-        input.column = column;
-        nxfx::renderModule(input, scene, out);
+        for (input.column = 0; input.column < modules; ++input.column)
+            nxfx::renderModule(input, scene, &out[std::size_t(input.column * leds)]);
+        return out;
     }
 };
 
@@ -48,10 +41,8 @@ struct EffectCanvas {
 inline long frameDistance(const std::vector<nxfx::Color>& a, const std::vector<nxfx::Color>& b)
 {
     long sum = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        sum += std::abs(nxfx::red(a[i]) - nxfx::red(b[i])) +
-               std::abs(nxfx::green(a[i]) - nxfx::green(b[i])) +
-               std::abs(nxfx::blue(a[i]) - nxfx::blue(b[i]));
-    }
+    for (std::size_t i = 0; i < a.size(); ++i)
+        for (int shift : {0, 8, 16})
+            sum += std::abs(int((a[i] >> shift) & 0xFF) - int((b[i] >> shift) & 0xFF));
     return sum;
 }

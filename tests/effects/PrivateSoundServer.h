@@ -16,16 +16,15 @@ public:
     bool start()
     {
         const QString program = QStandardPaths::findExecutable(QStringLiteral("pulseaudio"));
-        if (program.isEmpty() || !dir_.isValid())
-            return false;
         const QString runtime = dir_.filePath(QStringLiteral("runtime"));
-        QDir().mkpath(runtime);
+        if (program.isEmpty() || !QDir().mkpath(runtime))
+            return false;
         QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                            QFileDevice::ExeOwner);
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("HOME"), dir_.path());
+        for (const char* name : {"HOME", "XDG_CONFIG_HOME"})
+            env.insert(QLatin1String(name), dir_.path());
         env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime);
-        env.insert(QStringLiteral("XDG_CONFIG_HOME"), dir_.path());
         process_.setProcessEnvironment(env);
         process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process_.start(program,
@@ -36,9 +35,7 @@ public:
                                        "auth-anonymous=1 socket=") +
                             socket(),
                         QStringLiteral("--load=module-null-sink sink_name=nxtest")});
-        if (!process_.waitForStarted())
-            return false;
-        for (int i = 0; i < 200 && !QFile::exists(socket()); ++i)
+        for (int i = 0; i < 200 && process_.waitForStarted() && !QFile::exists(socket()); ++i)
             QThread::msleep(50);
         return QFile::exists(socket());
     }

@@ -14,18 +14,8 @@
 class Recording
 {
 public:
-    void u16(quint16 v)
-    {
-        char b[2];
-        qToLittleEndian(v, b);
-        bytes_.append(b, 2);
-    }
-    void u32(quint32 v)
-    {
-        char b[4];
-        qToLittleEndian(v, b);
-        bytes_.append(b, 4);
-    }
+    void u16(quint16 v) { put(v); }
+    void u32(quint32 v) { put(v); }
     void str(const char* text)
     {
         u16(quint16(qstrlen(text) + 1));
@@ -41,21 +31,22 @@ public:
     }
 
 private:
+    template <typename T> void put(T v)
+    {
+        v = qToLittleEndian(v);
+        bytes_.append(reinterpret_cast<const char*>(&v), int(sizeof v));
+    }
+
     QByteArray bytes_;
 };
 
-// A typical SMBus DRAM controller: Direct, Static with one colour, one linear zone; as sent at
-// protocol 3 to 5.
+// A DRAM controller (Direct, Static with one colour, one linear zone) as sent at protocol 3-5.
 inline std::vector<uint8_t> recordedDram(unsigned version, const char* location, int leds)
 {
     Recording r;
     r.u32(1); // DRAM
-    r.str("ENE DRAM");
-    r.str("ENE");
-    r.str("ENE SMBus Device");
-    r.str("DIMM_LED-0103");
-    r.str("");
-    r.str(location);
+    for (const char* text : {"ENE DRAM", "ENE", "ENE SMBus Device", "DIMM_LED-0103", "", location})
+        r.str(text);
     r.u16(2); // modes
     r.u32(1); // active: Static
     r.str("Direct");
@@ -73,10 +64,8 @@ inline std::vector<uint8_t> recordedDram(unsigned version, const char* location,
     r.u32(0x0000FF);
     r.u16(1); // zones
     r.str("DRAM");
-    r.u32(1); // linear
-    r.u32(quint32(leds));
-    r.u32(quint32(leds));
-    r.u32(quint32(leds));
+    for (quint32 v : {1, leds, leds, leds}) // linear, LEDs min, max and count
+        r.u32(v);
     r.u16(0); // no matrix
     if (version >= 4)
         r.u16(0); // segments
@@ -99,36 +88,23 @@ inline std::vector<uint8_t> recordedDram(unsigned version, const char* location,
 
 inline orgb::Controller expectedDram(const char* location, int leds)
 {
+    const uint32_t n = uint32_t(leds);
+    // name, value, flags, speed min and max, brightness min and max, colours min and max,
+    // speed, brightness, direction, colour mode, colours
+    const orgb::Mode direct{"Direct", 0xFFFF, 0x20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, {}};
+    const orgb::Mode fixed{"Static", 1, 0x40, 0, 0, 0, 255, 1, 1, 0, 200, 0, 2, {0x0000FF}};
+    const orgb::Zone zone{"DRAM", orgb::ZoneLinear, n, n, n, 0, 0, {}, {}, 0};
     orgb::Controller c;
-    c.type = orgb::DeviceDram;
     c.name = "ENE DRAM";
     c.vendor = "ENE";
     c.description = "ENE SMBus Device";
     c.version = "DIMM_LED-0103";
     c.location = location;
     c.activeMode = 1;
-    orgb::Mode direct;
-    direct.name = "Direct";
-    direct.value = 0xFFFF;
-    direct.flags = 0x20;
-    direct.colorMode = 1;
-    orgb::Mode fixed;
-    fixed.name = "Static";
-    fixed.value = 1;
-    fixed.flags = 0x40;
-    fixed.brightnessMax = 255;
-    fixed.brightness = 200;
-    fixed.colorsMin = fixed.colorsMax = 1;
-    fixed.colorMode = 2;
-    fixed.colors = {0x0000FF};
     c.modes = {direct, fixed};
-    orgb::Zone zone;
-    zone.name = "DRAM";
-    zone.type = orgb::ZoneLinear;
-    zone.ledsMin = zone.ledsMax = zone.ledsCount = uint32_t(leds);
     c.zones = {zone};
-    for (int i = 0; i < leds; ++i) {
-        c.leds.push_back({"DRAM LED " + std::to_string(i + 1), uint32_t(i)});
+    for (uint32_t i = 0; i < n; ++i) {
+        c.leds.push_back({"DRAM LED " + std::to_string(i + 1), i});
         c.colors.push_back(0x00FF00);
     }
     return c;

@@ -13,12 +13,16 @@
 #include <functional>
 #include <vector>
 
+inline void writeTo(QIODevice* device, const std::vector<uint8_t>& bytes)
+{
+    device->write(reinterpret_cast<const char*>(bytes.data()), qint64(bytes.size()));
+}
+
 // A scripted OpenRGB SDK server: answers the version, count and controller data requests
 // with recorded bytes, and keeps every packet the client sent.
 class FakeOrgbServer : public QObject
 {
 public:
-    // Controller data for (index, requested version).
     using Describe = std::function<std::vector<uint8_t>(uint32_t index, uint32_t version)>;
 
     FakeOrgbServer(uint32_t version, uint32_t count, Describe describe)
@@ -31,14 +35,13 @@ public:
                 client_ = socket;
                 splitter_.reset();
                 ++connections_;
-                QObject::connect(socket, &QTcpSocket::readyRead, this, [this] { read(); });
+                QObject::connect(socket, &QTcpSocket::readyRead, this, &FakeOrgbServer::read);
             }
         });
     }
 
     quint16 port() const { return server_.serverPort(); }
     int connections() const { return connections_; }
-    const std::vector<orgb::Packet>& received() const { return received_; }
     void clearReceived() { received_.clear(); }
     int count(uint32_t id) const
     {
@@ -47,24 +50,19 @@ public:
     }
     const orgb::Packet* last(uint32_t id, uint32_t device) const
     {
-        for (auto it = received_.rbegin(); it != received_.rend(); ++it) {
-            if (it->id == id && it->device == device)
-                return &*it;
-        }
-        return nullptr;
+        const auto it = std::find_if(received_.rbegin(), received_.rend(), [&](const auto& p) {
+            return p.id == id && p.device == device;
+        });
+        return it == received_.rend() ? nullptr : &*it;
     }
     void setCount(uint32_t count) { count_ = count; }
-    void push(uint32_t id)
+    void push(uint32_t id) { writeTo(client_, orgb::encodePacket(0, id)); }
+    // Closes the connection and stops listening, until listenAgain().
+    void goAway()
     {
-        const std::vector<uint8_t> bytes = orgb::encodePacket(0, id);
-        client_->write(reinterpret_cast<const char*>(bytes.data()), qint64(bytes.size()));
+        server_.close();
+        client_->abort();
     }
-    void dropClient()
-    {
-        if (client_)
-            client_->abort();
-    }
-    void stopListening() { server_.close(); }
     void listenAgain(quint16 port) { server_.listen(QHostAddress::LocalHost, port); }
 
 private:
@@ -76,23 +74,16 @@ private:
         orgb::Packet packet;
         while (splitter_.next(packet) == orgb::PacketSplitter::Status::Packet) {
             received_.push_back(packet);
-            answer(packet);
-        }
-    }
-    void answer(const orgb::Packet& packet)
-    {
-        std::vector<uint8_t> reply;
-        if (packet.id == orgb::RequestProtocolVersion)
-            reply = orgb::encodePacket(0, packet.id, orgb::encodeU32(version_));
-        else if (packet.id == orgb::RequestControllerCount)
-            reply = orgb::encodePacket(0, packet.id, orgb::encodeU32(count_));
-        else if (packet.id == orgb::RequestControllerData) {
             uint32_t version = 0;
-            orgb::decodeU32(packet.body, &version);
-            reply = orgb::encodePacket(packet.device, packet.id, describe_(packet.device, version));
+            if (packet.id == orgb::RequestProtocolVersion)
+                writeTo(client_, orgb::encodePacket(0, packet.id, orgb::encodeU32(version_)));
+            else if (packet.id == orgb::RequestControllerCount)
+                writeTo(client_, orgb::encodePacket(0, packet.id, orgb::encodeU32(count_)));
+            else if (packet.id == orgb::RequestControllerData &&
+                     orgb::decodeU32(packet.body, &version))
+                writeTo(client_, orgb::encodePacket(packet.device, packet.id,
+                                                    describe_(packet.device, version)));
         }
-        if (!reply.empty())
-            client_->write(reinterpret_cast<const char*>(reply.data()), qint64(reply.size()));
     }
 
     QTcpServer server_;
@@ -121,18 +112,16 @@ public:
     }
     void send(uint32_t device, uint32_t id, const std::vector<uint8_t>& body = {})
     {
-        const std::vector<uint8_t> bytes = orgb::encodePacket(device, id, body);
-        sendBytes(QByteArray(reinterpret_cast<const char*>(bytes.data()), int(bytes.size())));
+        writeTo(&socket_, orgb::encodePacket(device, id, body));
+        socket_.flush();
     }
     // The next packet of that id, dropping others; false on timeout or disconnection.
     bool waitFor(uint32_t id, orgb::Packet* packet, int timeoutMs = 5000)
     {
         QElapsedTimer clock;
         clock.start();
-        for (;;) {
-            const auto status = splitter_.next(*packet);
-            if (status == orgb::PacketSplitter::Status::Error)
-                return false;
+        for (auto status = splitter_.next(*packet); status != orgb::PacketSplitter::Status::Error;
+             status = splitter_.next(*packet)) {
             if (status == orgb::PacketSplitter::Status::Packet) {
                 if (packet->id == id)
                     return true;
@@ -145,21 +134,18 @@ public:
             splitter_.feed(reinterpret_cast<const uint8_t*>(bytes.constData()),
                            std::size_t(bytes.size()));
         }
+        return false;
     }
-    // True when the peer closed the connection within the time.
-    bool waitForClose(int timeoutMs = 5000)
+    // True when the peer closed the connection within five seconds.
+    bool waitForClose()
     {
-        if (socket_.state() == QAbstractSocket::UnconnectedState)
-            return true;
         QElapsedTimer clock;
         clock.start();
-        while (clock.elapsed() < timeoutMs) {
+        while (socket_.state() != QAbstractSocket::UnconnectedState && clock.elapsed() < 5000) {
             socket_.waitForReadyRead(100);
             socket_.readAll();
-            if (socket_.state() == QAbstractSocket::UnconnectedState)
-                return true;
         }
-        return false;
+        return socket_.state() == QAbstractSocket::UnconnectedState;
     }
 
 private:

@@ -1,11 +1,10 @@
-// The service's SDK server, run for real: hostile packets are shut out, a second service drives
-// the first through --output=openrgb, and the openrgb-sdk npm client talks to it.
+// The service's SDK server, run for real: a second service drives the first through its
+// "output" setting, hostile packets are shut out, and the openrgb-sdk npm client talks to it.
 
 #include "ControllerData.h"
 #include "Messages.h"
 #include "RawClient.h"
 #include "SdkPeers.h"
-#include "SdkServer.h"
 #include "ServiceProcess.h"
 #include "TestEnvironment.h"
 
@@ -56,11 +55,6 @@ bool nextMatching(RawClient& panel, nxproto::MessageType type, Decode accept, in
     return false;
 }
 
-QByteArray bytes(const std::vector<uint8_t>& data)
-{
-    return QByteArray(reinterpret_cast<const char*>(data.data()), int(data.size()));
-}
-
 } // namespace
 
 class TestOpenRgbService : public QObject
@@ -68,60 +62,13 @@ class TestOpenRgbService : public QObject
     Q_OBJECT
 
 private slots:
-    void hostilePacketsCloseOnlyTheirConnection();
     void serviceDrivesService();
-    void serverTellsOfDeviceListChanges();
-    void npmClient();
+    void sdkClients();
 };
-
-void TestOpenRgbService::hostilePacketsCloseOnlyTheirConnection()
-{
-    std::vector<uint8_t> leds = orgb::encodeLedUpdate({1, 2});
-    leds[0] = 99; // data_size disagrees
-    std::vector<uint8_t> huge = orgb::encodePacket(0, orgb::UpdateLeds);
-    huge[14] = 0x20; // 2 MiB body announced
-    QByteArray magic = bytes(orgb::encodePacket(0, orgb::RequestControllerCount));
-    magic[0] = 'X';
-    const std::pair<const char*, QByteArray> packets[] = {
-        {"wrong magic", magic},
-        {"inner size disagrees", bytes(orgb::encodePacket(0, orgb::UpdateLeds, leds))},
-        {"body past 1 MiB", bytes(huge)},
-        {"unknown id", bytes(orgb::encodePacket(0, 4242))},
-        {"device out of range",
-         bytes(orgb::encodePacket(2, orgb::UpdateLeds, orgb::encodeLedUpdate({1})))},
-        {"LED out of range",
-         bytes(orgb::encodePacket(0, orgb::UpdateSingleLed, orgb::encodeSingleLedUpdate(5, 1)))},
-        {"zone out of range",
-         bytes(orgb::encodePacket(0, orgb::UpdateZoneLeds, orgb::encodeZoneLedUpdate(1, {1})))},
-        {"mode out of range",
-         bytes(
-             orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)))},
-        {"data request of 2 bytes",
-         bytes(orgb::encodePacket(0, orgb::RequestControllerData, {1, 0}))}};
-
-    const quint16 port = freePort();
-    ServiceProcess service(dir("h/run"), dir("h/config"));
-    QVERIFY(service.start(
-        {sdkArgument(port), QStringLiteral("--modules=2"), QStringLiteral("--leds=5")}));
-    SdkProbe bystander;
-    QVERIFY(bystander.connectTo(port));
-    for (const auto& packet : packets) {
-        SdkProbe attacker;
-        QVERIFY2(attacker.connectTo(port), packet.first);
-        attacker.sendBytes(packet.second);
-        QVERIFY2(attacker.waitForClose(), packet.first);
-        bystander.send(0, orgb::RequestControllerCount);
-        orgb::Packet answer;
-        QVERIFY2(bystander.waitFor(orgb::RequestControllerCount, &answer), packet.first);
-        QCOMPARE(answer.body, orgb::encodeU32(2));
-    }
-    QVERIFY(service.terminate());
-}
 
 void TestOpenRgbService::serviceDrivesService()
 {
-    // Service A plays the OpenRGB server with two modules. A connected SDK client is enough for
-    // it to render: the modules show their lighting, not Direct mode.
+    // Service A serves two modules; an SDK client alone makes it render their own lighting.
     const quint16 port = freePort();
     ServiceProcess a(dir("sa/run"), dir("sa/config"));
     QVERIFY(
@@ -137,14 +84,11 @@ void TestOpenRgbService::serviceDrivesService()
     QVERIFY(b.start({QStringLiteral("--modules=0")}));
     QVERIFY(b.terminate());
     QFile state(dir("sb/config") + QStringLiteral("/norvalex/control-state.json"));
-    QVERIFY(state.open(QIODevice::ReadOnly));
-    QByteArray json = state.readAll();
-    state.close();
-    QVERIFY(json.contains("\"output\": \"none\""));
-    json.replace("\"output\": \"none\"",
-                 QStringLiteral("\"output\": \"openrgb:127.0.0.1:%1\"").arg(port).toUtf8());
-    QVERIFY(state.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    state.write(json);
+    QVERIFY(state.open(QIODevice::ReadWrite));
+    const QByteArray json = state.readAll().replace(
+        "\"output\": \"none\"",
+        QStringLiteral("\"output\": \"openrgb:127.0.0.1:%1\"").arg(port).toUtf8());
+    QVERIFY(json.contains("openrgb:") && state.resize(0) && state.write(json) == json.size());
     state.close();
     // B is itself an SDK server too, for the tool further down.
     const quint16 portB = freePort();
@@ -161,18 +105,10 @@ void TestOpenRgbService::serviceDrivesService()
         },
         15000));
     QCOMPARE(info.modules[0].ledNum, 5);
-    QVERIFY(info.modules[1].present);
-    QCOMPARE(info.modules[0].modelCode, std::string("KX44"));
-    QCOMPARE(info.modules[0].type, std::string("NORVALEX DRAM KX44"));
 
-    // B renders its lighting onto A: A's slot 0 goes into Direct mode and shows B's picture
-    // (B's panel wants no preview: B renders for its output alone), not the black that B's
-    // output starts from.
-    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && seen.activeMode == 0, 10000);
-    QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 0, &seen) && anyLit(seen.colors), 10000);
-    QCOMPARE(seen.type, int32_t(orgb::DeviceDram));
-    QCOMPARE(seen.modes[0].name, std::string("Direct"));
-    QCOMPARE(seen.modes[6].name, std::string("Wave"));
+    // B, with no preview wanted, renders onto A: A's slot 0 goes Direct and shows B's picture.
+    QTRY_VERIFY_WITH_TIMEOUT(
+        controllerData(probe, 0, &seen) && seen.activeMode == 0 && anyLit(seen.colors), 10000);
 
     // A tool driving B's second module directly reaches A's LEDs through B's output.
     SdkProbe tool;
@@ -181,8 +117,7 @@ void TestOpenRgbService::serviceDrivesService()
     tool.send(1, orgb::UpdateLeds, orgb::encodeLedUpdate(colors));
     QTRY_VERIFY_WITH_TIMEOUT(controllerData(probe, 1, &seen) && seen.colors == colors, 10000);
 
-    // A's panel preview shows them too, until the user changes that module on A's panel: its
-    // own lighting comes back.
+    // A's panel preview shows them too, until the user changes that module on A's panel.
     RawClient panelA;
     QVERIFY(panelA.connectTo(a.socketPath()));
     nxproto::Request preview;
@@ -198,104 +133,59 @@ void TestOpenRgbService::serviceDrivesService()
     panelA.send(lightingRequest(1, 6));
     QVERIFY(nextMatching(
         panelA, nxproto::MessageType::Preview,
-        [&](const nxproto::Frame& message) {
-            return !showsColors(message) &&
-                   anyLit(std::vector<orgb::Color>(shown.colors[1], shown.colors[1] + 5));
-        },
-        10000));
+        [&](const nxproto::Frame& message) { return !showsColors(message); }, 10000));
 
-    // A's server going away leaves B running, still reporting the modules, but with a time
-    // stamp that no longer advances, so the panel sees the data go stale.
-    QVERIFY(a.terminate());
-    nxproto::HardwareInfo later;
-    QVERIFY(nextMatching(
-        panelB, nxproto::MessageType::Hardware,
-        [&](const nxproto::Frame& frame) { return nxproto::decodeHardware(frame, info, nullptr); },
-        5000));
-    QTest::qWait(2200);
-    nxproto::Frame frame;
-    QVERIFY(panelB.waitFor(nxproto::MessageType::Hardware, &frame, 3000));
-    QVERIFY(nxproto::decodeHardware(frame, later, nullptr));
-    QCOMPARE(later.memoryCount, 2);
-    QVERIFY(later.updateTime <= info.updateTime);
-    QVERIFY(b.isRunning());
-    QVERIFY(b.terminate());
+    QVERIFY(a.terminate() && b.terminate());
 }
 
-void TestOpenRgbService::serverTellsOfDeviceListChanges()
+void TestOpenRgbService::sdkClients()
 {
-    DirectLighting direct;
-    SdkServer server(direct, "1.0");
-    QString error;
-    QVERIFY2(server.listen(QHostAddress::LocalHost, 0, &error), qPrintable(error));
-    SdkModule module;
-    module.leds = 8;
-    module.model = "KX44";
-    server.setModules({module});
-    QTcpSocket client;
-    client.connectToHost(QHostAddress::LocalHost, server.port());
-    QVERIFY(client.waitForConnected(5000));
-    QTRY_COMPARE(server.sessionCount(), 1);
-
-    // Same devices with another light mode: nothing to tell.
-    SdkModule changedMode = module;
-    changedMode.lightMode = 3;
-    server.setModules({changedMode});
-    QTest::qWait(100);
-    QCOMPARE(client.bytesAvailable(), 0);
-
-    // A second module, then one with other LEDs: each time DEVICE_LIST_UPDATED.
-    SdkModule second = module;
-    second.slot = 1;
-    server.setModules({module, second});
-    second.leds = 5;
-    server.setModules({module, second});
-    QTRY_COMPARE(client.bytesAvailable(), qint64(2 * orgb::kHeaderSize));
-    const std::vector<uint8_t> expected = orgb::encodePacket(0, orgb::DeviceListUpdated);
-    QCOMPARE(client.read(orgb::kHeaderSize), bytes(expected));
-
-    // The session ends with its client.
-    client.abort();
-    QTRY_COMPARE(server.sessionCount(), 0);
-}
-
-void TestOpenRgbService::npmClient()
-{
-    const QString node = QStandardPaths::findExecutable(QStringLiteral("node"));
-    if (node.isEmpty())
-        QSKIP("node is not installed: the openrgb-sdk client test needs Node.js");
-    const QString modules = QStringLiteral(NX_NPM_DIR "/node_modules/openrgb-sdk");
-    if (!QFile::exists(modules + QStringLiteral("/package.json")))
-        QFAIL("openrgb-sdk is not installed in the build tree (test openrgb.npm_install)");
-
     const quint16 port = freePort();
     ServiceProcess service(dir("n/run"), dir("n/config"));
     QVERIFY(service.start(
         {sdkArgument(port), QStringLiteral("--modules=3"), QStringLiteral("--leds=8")}));
+
+    // Hostile packets close their own connection only.
+    std::vector<uint8_t> leds = orgb::encodeLedUpdate({1, 2});
+    leds[0] = 99; // data_size disagrees
+    std::vector<uint8_t> huge = orgb::encodePacket(0, orgb::UpdateLeds);
+    huge[14] = 0x20; // 2 MiB body announced
+    QByteArray magic = bytesOf(orgb::encodePacket(0, orgb::RequestControllerCount));
+    magic[0] = 'X';
+    const QByteArray packets[] = {
+        magic, bytesOf(orgb::encodePacket(0, orgb::UpdateLeds, leds)), bytesOf(huge),
+        bytesOf(
+            orgb::encodePacket(0, orgb::UpdateMode, orgb::encodeModeUpdate(99, orgb::Mode(), 0)))};
+    SdkProbe bystander;
+    QVERIFY(bystander.connectTo(port));
+    for (const QByteArray& packet : packets) {
+        SdkProbe attacker;
+        QVERIFY(attacker.connectTo(port));
+        attacker.sendBytes(packet);
+        QVERIFY2(attacker.waitForClose(), packet.toHex().constData());
+        bystander.send(0, orgb::RequestControllerCount);
+        orgb::Packet answer;
+        QVERIFY(bystander.waitFor(orgb::RequestControllerCount, &answer));
+        QCOMPARE(answer.body, orgb::encodeU32(3));
+    }
+
+    // The openrgb-sdk npm client, a real third-party peer.
+    const QString node = QStandardPaths::findExecutable(QStringLiteral("node"));
+    if (node.isEmpty())
+        QSKIP("node is not installed: the openrgb-sdk client test needs Node.js");
+    if (!QFile::exists(QStringLiteral(NX_NPM_DIR "/node_modules/openrgb-sdk/package.json")))
+        QFAIL("openrgb-sdk is not installed in the build tree (test openrgb.npm_install)");
     QProcess script;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("NODE_PATH"), QStringLiteral(NX_NPM_DIR "/node_modules"));
     script.setProcessEnvironment(env);
+    script.setProcessChannelMode(QProcess::MergedChannels);
     script.start(node, {QStringLiteral(NX_SOURCE_DIR "/tests/openrgb/sdk_client.js"),
                         QString::number(port)});
     QVERIFY(script.waitForFinished(60000));
-    const QByteArray output = script.readAllStandardOutput();
-    QVERIFY2(script.exitCode() == 0,
-             QByteArray(output + script.readAllStandardError()).constData());
+    QVERIFY2(script.exitCode() == 0, script.readAll().constData());
 
-    // What the client left behind: slot 1 in Direct with its colours, slot 2 in Pulse.
-    SdkProbe probe;
-    QVERIFY(probe.connectTo(port));
-    orgb::Controller one;
-    QVERIFY(controllerData(probe, 1, &one));
-    QCOMPARE(one.activeMode, 0);
-    QCOMPARE(one.colors.front(), orgb::Color(0x030201));
-    QCOMPARE(one.colors.back(), orgb::Color(0x0000FF));
-    orgb::Controller two;
-    QVERIFY(controllerData(probe, 2, &two));
-    QCOMPARE(two.modes[std::size_t(two.activeMode)].name, std::string("Pulse"));
-
-    // And the change of mode reached the panel's state.
+    // The client's change of mode reached the panel's state.
     RawClient panel;
     QVERIFY(panel.connectTo(service.socketPath()));
     nxproto::StateMessage state;

@@ -12,18 +12,13 @@
 #include <QTemporaryDir>
 
 #include <cstdint>
+#include <tuple>
 
 namespace fixture {
 
-inline void put16(QByteArray& b, int offset, uint16_t v)
+inline void put(QByteArray& b, int offset, uint32_t v, int bytes)
 {
-    b[offset] = char(v & 0xFF);
-    b[offset + 1] = char(v >> 8);
-}
-
-inline void put32(QByteArray& b, int offset, uint32_t v)
-{
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < bytes; ++i)
         b[offset + i] = char((v >> (8 * i)) & 0xFF);
 }
 
@@ -34,20 +29,18 @@ inline QByteArray structure(uint8_t type, int length, uint16_t handle,
     QByteArray s(length, '\0');
     s[0] = char(type);
     s[1] = char(length);
-    put16(s, 2, handle);
+    put(s, 2, handle, 2);
     for (const QString& text : strings)
         s += text.toLatin1() + '\0';
-    if (strings.isEmpty())
-        s += '\0';
-    return s + '\0';
+    return s + (strings.isEmpty() ? QByteArray(2, '\0') : QByteArray(1, '\0'));
 }
 
-// Type 16, system memory, with `count` devices.
+// Type 16, system memory.
 inline QByteArray memoryArray(int count)
 {
     QByteArray s = structure(16, 0x17, 0x1000);
     s[0x07] = 0x03; // use: system memory
-    put16(s, 0x0D, uint16_t(count));
+    put(s, 0x0D, uint16_t(count), 2);
     return s;
 }
 
@@ -68,23 +61,21 @@ inline QByteArray memoryDevice(const Device& d, uint16_t handle)
 {
     QStringList strings;
     QByteArray s(0x5C, '\0');
-    auto addString = [&](int offset, const QString& text) {
+    for (const auto& [offset, text] :
+         {std::pair{0x10, d.locator}, {0x11, d.bank}, {0x1A, d.part}}) {
         if (!text.isEmpty()) {
             strings << text;
             s[offset] = char(strings.size());
         }
-    };
-    put16(s, 0x04, 0x1000);
-    put16(s, 0x0C, d.size);
-    put32(s, 0x1C, d.extendedSize);
+    }
+    put(s, 0x04, 0x1000, 2);
+    put(s, 0x0C, d.size, 2);
+    put(s, 0x1C, d.extendedSize, 4);
     s[0x0E] = 0x09; // DIMM
-    addString(0x10, d.locator);
-    addString(0x11, d.bank);
     s[0x12] = char(d.type);
-    put16(s, 0x15, d.speed);
-    addString(0x1A, d.part);
-    put16(s, 0x20, d.configured);
-    put32(s, 0x58, d.extendedConfigured);
+    put(s, 0x15, d.speed, 2);
+    put(s, 0x20, d.configured, 2);
+    put(s, 0x58, d.extendedConfigured, 4);
     return structure(17, 0x5C, handle, strings).replace(4, 0x5C - 4, s.mid(4));
 }
 
@@ -99,20 +90,14 @@ inline QByteArray ddr4Spd(int tckPs, int taaPs, int trcdPs, uint32_t casFlags,
 {
     QByteArray b(512, '\0');
     b[2] = 0x0C;
-    b[17] = 0x00;
-    auto time = [&](int coarse, int fine, int ps) {
-        int units = (ps + 124) / 125; // round up, correct downward
+    for (const auto& [coarse, fine, ps] :
+         {std::tuple{18, 125, tckPs}, {24, 123, taaPs}, {25, 122, trcdPs}}) {
+        const int units = (ps + 124) / 125; // round up, correct downward
         b[coarse] = char(units);
         b[fine] = char(int8_t(ps - units * 125));
-    };
-    time(18, 125, tckPs);
-    time(24, 123, taaPs);
-    time(25, 122, trcdPs);
-    put32(b, 20, casFlags);
-    QByteArray padded = part.leftJustified(20, ' ');
-    for (int i = 0; i < 20; ++i)
-        b[329 + i] = padded[i];
-    return b;
+    }
+    put(b, 20, casFlags, 4);
+    return b.replace(329, 20, part.leftJustified(20, ' '));
 }
 
 // DDR5 SPD (1024 bytes): times in ps, CAS latencies as CL 20 + 2 * bit.
@@ -121,40 +106,35 @@ inline QByteArray ddr5Spd(int tckPs, int taaPs, int trcdPs, const QList<int>& la
 {
     QByteArray b(1024, '\0');
     b[2] = 0x12;
-    put16(b, 20, uint16_t(tckPs));
-    put16(b, 30, uint16_t(taaPs));
-    put16(b, 32, uint16_t(trcdPs));
+    put(b, 20, uint16_t(tckPs), 2);
+    put(b, 30, uint16_t(taaPs), 2);
+    put(b, 32, uint16_t(trcdPs), 2);
     for (int cl : latencies) {
         const int bit = (cl - 20) / 2;
         b[24 + bit / 8] = char(uint8_t(b[24 + bit / 8]) | (1 << (bit % 8)));
     }
-    QByteArray padded = part.leftJustified(30, ' ');
-    for (int i = 0; i < 30; ++i)
-        b[521 + i] = padded[i];
-    return b;
+    return b.replace(521, 30, part.leftJustified(30, ' '));
 }
 
-// A fake root folder.
 class Root
 {
 public:
     QString path() const { return dir_.path(); }
+    QString file(const QString& relative) const { return path() + QLatin1Char('/') + relative; }
 
     void write(const QString& relative, const QByteArray& content)
     {
-        const QString file = path() + QLatin1Char('/') + relative;
-        QDir().mkpath(QFileInfo(file).absolutePath());
-        QFile f(file);
+        QDir().mkpath(QFileInfo(file(relative)).absolutePath());
+        QFile f(file(relative));
         f.open(QIODevice::WriteOnly);
         f.write(content);
     }
-    void mkdir(const QString& relative) { QDir().mkpath(path() + QLatin1Char('/') + relative); }
+    void mkdir(const QString& relative) { QDir().mkpath(file(relative)); }
 
     void meminfo(qint64 totalKB, qint64 availableKB)
     {
         write(QStringLiteral("proc/meminfo"),
-              QStringLiteral("MemTotal:       %1 kB\nMemFree:         1000 kB\n"
-                             "MemAvailable:   %2 kB\nBuffers:          100 kB\n")
+              QStringLiteral("MemTotal: %1 kB\nMemFree: 1000 kB\nMemAvailable: %2 kB\n")
                   .arg(totalKB)
                   .arg(availableKB)
                   .toLatin1());
@@ -166,34 +146,29 @@ public:
     // An EEPROM bound to `driver` ("ee1004", "spd5118") at "<bus>-00<address>".
     void eeprom(const char* driver, int bus, int address, const QByteArray& image)
     {
-        write(QStringLiteral("sys/bus/i2c/drivers/%1/%2/eeprom")
-                  .arg(QLatin1String(driver), i2cName(bus, address)),
+        write(QStringLiteral("sys/bus/i2c/drivers/%1/%2-%3/eeprom")
+                  .arg(QLatin1String(driver))
+                  .arg(bus)
+                  .arg(address, 4, 16, QLatin1Char('0')),
               image);
     }
-    // hwmon<index> of `name`; `device` is an I2C device name or empty; temps as
-    // {"temp1", millidegrees text, label}.
+    // hwmon<index>, its I2C `device` if any, temps as {"temp1", millidegrees or "-", label}.
     void hwmon(int index, const QByteArray& name, const QString& device,
                const QList<QStringList>& temps)
     {
-        const QString folder = QStringLiteral("sys/class/hwmon/hwmon%1").arg(index);
-        write(folder + QStringLiteral("/name"), name + '\n');
+        const QString folder = QStringLiteral("sys/class/hwmon/hwmon%1/").arg(index);
+        write(folder + QStringLiteral("name"), name + '\n');
         if (!device.isEmpty()) {
             mkdir(QStringLiteral("sys/devices/i2c/") + device);
-            QFile::link(path() + QStringLiteral("/sys/devices/i2c/") + device,
-                        path() + QLatin1Char('/') + folder + QStringLiteral("/device"));
+            QFile::link(file(QStringLiteral("sys/devices/i2c/") + device),
+                        file(folder + QStringLiteral("device")));
         }
         for (const QStringList& t : temps) {
             if (t.value(1) != QLatin1String("-"))
-                write(folder + QLatin1Char('/') + t.at(0) + QStringLiteral("_input"),
-                      t.at(1).toLatin1() + '\n');
+                write(folder + t.at(0) + QStringLiteral("_input"), t.at(1).toLatin1() + '\n');
             if (!t.value(2).isEmpty())
-                write(folder + QLatin1Char('/') + t.at(0) + QStringLiteral("_label"),
-                      t.at(2).toLatin1() + '\n');
+                write(folder + t.at(0) + QStringLiteral("_label"), t.at(2).toLatin1() + '\n');
         }
-    }
-    static QString i2cName(int bus, int address)
-    {
-        return QStringLiteral("%1-%2").arg(bus).arg(address, 4, 16, QLatin1Char('0'));
     }
 
 private:

@@ -45,7 +45,6 @@ public slots:
         return id;
     }
     void CloseNotification(uint id) { closed.append(id); }
-    QStringList GetCapabilities() { return {QStringLiteral("actions"), QStringLiteral("body")}; }
 
 private:
     uint lastId_ = 100;

@@ -14,12 +14,12 @@
 
 namespace {
 
-// One norvalex-control run with its own runtime and config folders, the session bus standing in
-// for the system bus, and its log kept. The machine's own modules unless the arguments choose.
+// A service with its own folders, the session bus as system bus, the modules found below `root`.
 class Service
 {
 public:
-    explicit Service(QStringList arguments) : process_(runtime_.path(), config_.path())
+    explicit Service(const QString& root, QStringList arguments = {})
+        : process_(home_.path(), home_.path())
     {
         process_.setEnvironment(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
                                 qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"));
@@ -28,65 +28,48 @@ public:
         process_.captureErrors();
         if (arguments.filter(QStringLiteral("--modules")).isEmpty())
             arguments << QStringLiteral("--modules=auto");
-        started_ = process_.start(arguments);
+        started_ = process_.start(arguments << QStringLiteral("--root") << root);
     }
-    QString configPath() const { return config_.path(); }
-    QString log()
-    {
-        log_ += process_.readAllErrors();
-        return log_;
-    }
+    QString configPath() const { return home_.path(); }
+    QString log() { return log_ += process_.readAllErrors(); }
     bool connect(RawClient& client) { return started_ && client.connectTo(process_.socketPath()); }
+    // The first hardware report a new client receives.
+    bool readHardware(nxproto::HardwareInfo& hardware)
+    {
+        RawClient client;
+        nxproto::Frame frame;
+        return connect(client) && client.waitFor(nxproto::MessageType::Hardware, &frame, 5000) &&
+               nxproto::decodeHardware(frame, hardware, nullptr);
+    }
 
 private:
-    QTemporaryDir runtime_;
-    QTemporaryDir config_;
+    QTemporaryDir home_;
     ServiceProcess process_;
     bool started_ = false;
     QString log_;
 };
 
-nxproto::Request notification(const NotiEventData& noti)
+nxproto::Request notification(bool cpu, bool load, bool fan)
 {
     nxproto::Request request;
     request.type = nxproto::MessageType::SetNotification;
-    request.noti = noti;
+    request.noti = {};
+    request.noti.changedItem = 4;
+    request.noti.loadingSwitch = load;
+    request.noti.loadingValue = 80;
+    request.noti.loadingColor = 0x123456;
+    request.noti.shutdownMemoryValue = 85;
+    request.noti.shutdownCPUSwitch = cpu;
+    request.noti.shutdownCPUValue = 90;
+    request.noti.fanSpeedSwitch = fan;
+    request.noti.fanSpeedValue = 70;
     return request;
-}
-
-NotiEventData rulesOff()
-{
-    NotiEventData noti = {};
-    noti.changedItem = 4;
-    noti.loadingValue = 80;
-    noti.loadingColor = 0x123456;
-    noti.shutdownMemoryValue = 85;
-    noti.shutdownCPUValue = 90;
-    noti.fanSpeedValue = 70;
-    return noti;
 }
 
 // Two DRAM controllers of an OpenRGB server, as recorded.
 std::vector<uint8_t> twoControllers(uint32_t index, uint32_t version)
 {
-    return recordedDram(
-        version, index ? "I2C: /dev/i2c-1, address 0x73" : "I2C: /dev/i2c-1, address 0x71", 5);
-}
-
-// The first hardware report a new client of the service receives.
-bool readHardware(Service& service, nxproto::HardwareInfo& hardware)
-{
-    RawClient client;
-    nxproto::Frame frame;
-    return service.connect(client) &&
-           client.waitFor(nxproto::MessageType::Hardware, &frame, 5000) &&
-           nxproto::decodeHardware(frame, hardware, nullptr);
-}
-
-void setCpuTemperature(fixture::Root& root, int milli)
-{
-    root.write(QStringLiteral("sys/class/hwmon/hwmon0/temp1_input"),
-               QByteArray::number(milli) + '\n');
+    return recordedDram(version, index ? "address 0x73" : "address 0x71", 5);
 }
 
 } // namespace
@@ -103,6 +86,12 @@ private slots:
     void resumeAndAutostart();
 
 private:
+    void setCpuTemperature(int milli)
+    {
+        root_.write(QStringLiteral("sys/class/hwmon/hwmon0/temp1_input"),
+                    QByteArray::number(milli) + '\n');
+    }
+
     NotificationServer notifications_;
     LoginManager login_;
     // One service for the rules: readings from root_, the modules of an OpenRGB server.
@@ -117,7 +106,6 @@ void TestRulesService::initTestCase()
     if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
         QSKIP("needs a private session bus: run under dbus-run-session");
     QDBusConnection bus = QDBusConnection::sessionBus();
-    QVERIFY(bus.isConnected());
     QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &notifications_,
                                QDBusConnection::ExportAllSlots));
     QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.Notifications")));
@@ -128,97 +116,70 @@ void TestRulesService::initTestCase()
     root_.meminfo(1000, 900);
     root_.hwmon(0, "coretemp", {}, {{"temp1", "60000", "Package id 0"}});
     service_ = std::make_unique<Service>(
-        QStringList{QStringLiteral("--root"), root_.path(), QStringLiteral("--modules=0"),
+        root_.path(),
+        QStringList{QStringLiteral("--modules=0"),
                     QStringLiteral("--output=openrgb:127.0.0.1:%1").arg(orgb_.port())});
-    QVERIFY(service_->connect(client_));
     nxproto::StateMessage state;
-    QVERIFY(client_.waitForState(&state, 0, 5000));
+    QVERIFY(service_->connect(client_) && client_.waitForState(&state, 0, 5000));
 }
 
 void TestRulesService::moduleSources()
 {
-    // Two modules the probe finds: reported with their part numbers.
+    // Two modules the probe finds: reported with their part numbers and timings.
     fixture::Root machine;
     machine.meminfo(16777216, 12582912);
     fixture::Device d;
     d.size = 8192;
-    d.configured = 3200;
     d.part = QStringLiteral("CT8G4DFRA32A");
-    QByteArray table = fixture::memoryArray(2);
-    for (const char* locator : {"ChannelA-DIMM0", "ChannelB-DIMM0"}) {
-        d.locator = QLatin1String(locator);
-        table += fixture::memoryDevice(d, 0x11);
-    }
-    machine.dmiTable(table);
-    {
-        Service service({QStringLiteral("--root"), machine.path()});
-        nxproto::HardwareInfo hardware;
-        QVERIFY(readHardware(service, hardware));
-        // The probe's findings in detail: tst_memory_probe.
-        QCOMPARE(hardware.memoryCount, 2);
-        QCOMPARE(hardware.physicalMemoryUsed, 4096);
-        QCOMPARE(hardware.memoryLoad, 25.0);
-        QCOMPARE(hardware.modules[1].modelCode, std::string("CT8G4DFRA32A"));
-        QTRY_VERIFY_WITH_TIMEOUT(
-            service.log().contains(QStringLiteral("modules: real modules from the SMBIOS table")),
-            10000);
-    }
-    // The same machine forced to the simulation, and a machine without sources.
+    d.locator = QStringLiteral("ChannelA-DIMM0");
+    QByteArray table = fixture::memoryArray(2) + fixture::memoryDevice(d, 0x11);
+    d.locator = QStringLiteral("ChannelB-DIMM0");
+    machine.dmiTable(table + fixture::memoryDevice(d, 0x12));
+    const QByteArray spd = fixture::ddr4Spd(625, 13750, 13750, 1u << 15);
+    machine.eeprom("ee1004", 0, 0x50, spd);
+    machine.eeprom("ee1004", 0, 0x51, spd);
+    nxproto::HardwareInfo hardware;
+    QVERIFY(Service(machine.path()).readHardware(hardware));
+    QCOMPARE(hardware.memoryCount, 2);
+    QCOMPARE(hardware.memoryLoad, 25.0);
+    QCOMPARE(hardware.modules[1].modelCode, std::string("CT8G4DFRA32A"));
+    QCOMPARE(hardware.casLatency, 22.0);
+
+    // A machine without sources gets the simulation.
     fixture::Root none;
-    for (const QStringList& arguments :
-         {QStringList{QStringLiteral("--root"), machine.path(), QStringLiteral("--modules"),
-                      QStringLiteral("simulated")},
-          QStringList{QStringLiteral("--root"), none.path()}}) {
-        Service service(arguments);
-        nxproto::HardwareInfo hardware;
-        QVERIFY(readHardware(service, hardware));
-        QCOMPARE(hardware.memoryCount, 4);
-        QCOMPARE(hardware.modules[0].modelCode, std::string("KX44"));
-        QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("modules: simulated")),
-                                 10000);
-    }
+    QVERIFY(Service(none.path()).readHardware(hardware));
+    QCOMPARE(hardware.memoryCount, 4);
+    QCOMPARE(hardware.modules[0].modelCode, std::string("KX44"));
 }
 
 void TestRulesService::temperatureWarningAndShutdown()
 {
-    NotiEventData noti = rulesOff();
-    noti.shutdownCPUSwitch = true;
     nxproto::StateMessage state;
-    QVERIFY(client_.waitForState(&state, client_.send(notification(noti)), 5000));
-
-    notifications_.shown.clear();
-    notifications_.closed.clear();
-    login_.powerOffs.clear();
-    setCpuTemperature(root_, 95000);
+    QVERIFY(client_.waitForState(&state, client_.send(notification(true, false, false)), 5000));
+    setCpuTemperature(95000);
     QTRY_COMPARE_WITH_TIMEOUT(notifications_.shown.size(), 1, 10000);
     const NotificationServer::Shown shown = notifications_.shown.first();
     QCOMPARE(shown.summary, QStringLiteral("CPU temperature 95 °C is above 90 °C"));
     QCOMPARE(shown.actions, (QStringList{QStringLiteral("shutdown"), QStringLiteral("Shut down")}));
     QCOMPARE(shown.hints.value(QStringLiteral("urgency")).toInt(), 2);
-    // Still hot a few checks later: no second warning, and no power-off by itself.
-    QTest::qWait(2500);
-    QCOMPARE(notifications_.shown.size(), 1);
-    QVERIFY(login_.powerOffs.isEmpty());
 
-    // Another notification's action, or another action, does nothing.
+    // Another notification's action, or another action, does nothing; the warning itself
+    // never powers off, nor comes again while it stays hot.
     notifications_.invoke(shown.id + 1, QStringLiteral("shutdown"));
     notifications_.invoke(shown.id, QStringLiteral("default"));
     notifications_.invoke(shown.id, QStringLiteral("shutdown"));
     QTRY_COMPARE_WITH_TIMEOUT(login_.powerOffs, QList<bool>{true}, 10000);
+    QCOMPARE(notifications_.shown.size(), 1);
 
-    // Falling below the band withdraws the warning (the band itself: tst_rule_engine); the next
-    // crossing warns again.
-    setCpuTemperature(root_, 88000);
+    // Falling below the band withdraws the warning; the next crossing warns again.
+    setCpuTemperature(88000);
     QTRY_COMPARE_WITH_TIMEOUT(notifications_.closed, QList<uint>{shown.id}, 10000);
-    setCpuTemperature(root_, 91000);
+    setCpuTemperature(91000);
     QTRY_COMPARE_WITH_TIMEOUT(notifications_.shown.size(), 2, 10000);
-    QTRY_VERIFY_WITH_TIMEOUT(
-        service_->log().contains(QStringLiteral("CPU temperature 91 °C is above 90 °C")), 10000);
 
     // The fan rule is kept and logged, never carried out.
-    noti.fanSpeedSwitch = true;
-    QVERIFY(client_.waitForState(&state, client_.send(notification(noti)), 5000));
-    QCOMPARE(state.state.noti.fanSpeedSwitch, true);
+    QVERIFY(client_.waitForState(&state, client_.send(notification(true, false, true)), 5000));
+    QVERIFY(state.state.noti.fanSpeedSwitch);
     QTRY_VERIFY_WITH_TIMEOUT(
         service_->log().contains(QStringLiteral("needs a fan-control program")), 10000);
 }
@@ -226,73 +187,36 @@ void TestRulesService::temperatureWarningAndShutdown()
 void TestRulesService::loadRuleColoursEveryLed()
 {
     root_.meminfo(1000, 100); // 90 %
-    NotiEventData noti = rulesOff();
-    noti.loadingSwitch = true;
     RawClient client;
     nxproto::StateMessage state;
     QVERIFY(service_->connect(client) && client.waitForState(&state));
-    QVERIFY(client.waitForState(&state, client.send(notification(noti)), 5000));
-    nxproto::Request preview;
-    preview.type = nxproto::MessageType::SetPreview;
-    preview.preview = true;
-    client.send(preview);
-
-    // Waits for a frame in which `check` holds.
-    auto waitForFrame = [&](auto check) {
-        QElapsedTimer clock;
-        clock.start();
-        nxproto::Frame frame;
-        nxproto::PreviewMessage message;
-        while (clock.elapsed() < 10000 &&
-               client.waitFor(nxproto::MessageType::Preview, &frame, 5000)) {
-            if (nxproto::decodePreview(frame, message, nullptr) && check(message))
-                return true;
-        }
-        return false;
+    QVERIFY(client.waitForState(&state, client.send(notification(false, true, false)), 5000));
+    // Every LED of both controllers takes the rule's colour; when the load falls, their own
+    // lighting returns.
+    const auto override = orgb::encodeLedUpdate(std::vector<orgb::Color>(5, 0x123456));
+    const auto overridden = [&] {
+        const orgb::Packet* first = orgb_.last(orgb::UpdateLeds, 0);
+        const orgb::Packet* second = orgb_.last(orgb::UpdateLeds, 1);
+        return first && second && first->body == override && second->body == override;
     };
-    const auto overridden = [](const nxproto::PreviewMessage& m) {
-        for (int slot = 0; slot < 2; ++slot) {
-            for (int led = 0; led < 5; ++led) {
-                if (m.colors[slot][led] != 0x123456)
-                    return false;
-            }
-        }
-        // Absent modules and LEDs past a module's count stay dark.
-        return m.colors[0][5] == 0 && m.colors[2][0] == 0;
-    };
-    QVERIFY(waitForFrame(overridden));
-    // The OpenRGB controllers show it too.
-    const std::vector<orgb::Color> override(5, 0x123456);
-    QTRY_VERIFY_WITH_TIMEOUT(orgb_.last(orgb::UpdateLeds, 1) &&
-                                 orgb_.last(orgb::UpdateLeds, 1)->body ==
-                                     orgb::encodeLedUpdate(override),
-                             10000);
-    // The load falls: the modules' own lighting returns.
+    QTRY_VERIFY_WITH_TIMEOUT(overridden(), 10000);
     root_.meminfo(1000, 600);
-    QVERIFY(waitForFrame([&](const nxproto::PreviewMessage& m) { return !overridden(m); }));
-    QTRY_VERIFY_WITH_TIMEOUT(service_->log().contains(QStringLiteral("memory load rule ended")),
-                             10000);
+    QTRY_VERIFY_WITH_TIMEOUT(!overridden(), 10000);
 }
 
 void TestRulesService::resumeAndAutostart()
 {
-    // The controllers were put into Direct mode and given every LED when the service started.
-    QTRY_VERIFY_WITH_TIMEOUT(orgb_.count(orgb::UpdateMode) >= 2, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(orgb_.count(orgb::UpdateMode) >= 2, 20000); // at start-up
     RawClient client;
     nxproto::StateMessage state;
     QVERIFY(service_->connect(client) && client.waitForState(&state));
 
-    // Going to sleep changes nothing; waking up sends the whole lighting out again, to the
-    // panel and to the controllers (Direct mode and every LED), on the same connection.
+    // Waking up sends the whole lighting out again, to the panel and to the controllers
+    // (Direct mode and every LED), on the same connection.
     orgb_.clearReceived();
-    login_.prepareForSleep(true);
-    QTest::qWait(300);
-    QCOMPARE(orgb_.count(orgb::UpdateMode), 0);
     login_.prepareForSleep(false);
     QVERIFY(client.waitForState(&state, 0, 10000));
     QCOMPARE(state.changes, uint32_t(nxproto::ChangeAll));
-    QTRY_VERIFY_WITH_TIMEOUT(service_->log().contains(QStringLiteral("re-applying the lighting")),
-                             10000);
     QTRY_COMPARE_WITH_TIMEOUT(orgb_.count(orgb::UpdateMode), 2, 10000);
     QTRY_VERIFY_WITH_TIMEOUT(orgb_.last(orgb::UpdateLeds, 0) && orgb_.last(orgb::UpdateLeds, 1),
                              10000);
@@ -308,9 +232,6 @@ void TestRulesService::resumeAndAutostart()
     setting.setting.autoRun = false;
     QVERIFY(client.waitForState(&state, client.send(setting), 5000));
     QVERIFY(!QFileInfo::exists(entry));
-    setting.setting.autoRun = true;
-    QVERIFY(client.waitForState(&state, client.send(setting), 5000));
-    QVERIFY(QFileInfo::exists(entry));
 }
 
 QTEST_GUILESS_MAIN(TestRulesService)
