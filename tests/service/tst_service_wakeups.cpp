@@ -2,7 +2,6 @@
 // the picture. The real service on a fake root, whose readings the tests change.
 
 #include "FixtureRoot.h"
-#include "FrameDecoder.h"
 #include "Messages.h"
 #include "RawClient.h"
 #include "ResumeWatch.h"
@@ -147,10 +146,6 @@ void TestServiceWakeups::rulesKeepWatching()
     NotiEventData noti = {};
     noti.loadingSwitch = true;
     noti.loadingValue = 50;
-    noti.loadingColor = 0x123456;
-    noti.shutdownMemoryValue = 85;
-    noti.shutdownCPUValue = 90;
-    noti.fanSpeedValue = 70;
     QVERIFY(setRules(service, noti));
 
     // No client is left, but the load rule still follows the readings.
@@ -162,36 +157,25 @@ void TestServiceWakeups::rulesKeepWatching()
                              20000);
     QVERIFY(!staysAsleep(service));
 
-    // Turned off while it holds, the rule ends at once, though nothing is read any more.
+    // Turned off while it holds, the rule ends at once, though nothing is read any more, and
+    // the service sleeps again.
     root.meminfo(1000, 100);
     QTRY_VERIFY_WITH_TIMEOUT(service.log().count(QStringLiteral("memory load 90 %")) == 2, 20000);
     noti.loadingSwitch = false;
-    noti.fanSpeedSwitch = true;
     QVERIFY(setRules(service, noti));
     QTRY_VERIFY_WITH_TIMEOUT(service.log().count(QStringLiteral("memory load rule ended")) == 2,
                              20000);
-    // The fan rule is reported on the change; it reads nothing, so the service sleeps again.
-    QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("needs a fan-control program")),
-                             20000);
     QTRY_VERIFY_WITH_TIMEOUT(staysAsleep(service), 30000);
-
-    // A temperature rule reads again.
-    noti.shutdownCPUSwitch = true;
-    QVERIFY(setRules(service, noti));
-    QVERIFY(!staysAsleep(service));
 }
 
 void TestServiceWakeups::resumeWatchRestartsClean()
 {
     ResumeWatch watch;
     QSignalSpy resumed(&watch, &ResumeWatch::resumed);
-    QVERIFY(watch.isActive());
     // The clocks as they were long ago: a stopped watch must forget them.
     watch.check(0, 0);
     watch.setActive(false);
-    QVERIFY(!watch.isActive());
     watch.setActive(true);
-    QVERIFY(watch.isActive());
     QCOMPARE(resumed.count(), 0);
     // Running, it still notices a jump of the wall clock.
     const qint64 wall = QDateTime::currentMSecsSinceEpoch();
@@ -199,41 +183,21 @@ void TestServiceWakeups::resumeWatchRestartsClean()
     QVERIFY(watch.check(wall + 60000, 2000));
 }
 
+// Encoded into the longer buffer of the frames before, a preview is byte for byte the one
+// encoded afresh.
 void TestServiceWakeups::previewEncodedInPlace()
 {
     nxproto::PreviewMessage message;
-    message.frame = 0x01020304;
     for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
         for (int led = 0; led < nxproto::kLedCount; ++led)
             message.colors[slot][led] = COLORREF(0xA0B0C0u + uint32_t(slot * 256 + led));
     }
-    // The buffer of the frames before: longer, and with other bytes in it.
     std::vector<uint8_t> bytes(2000, 0xEE);
-    for (uint32_t frame : {message.frame, 7u}) {
+    for (uint32_t frame : {0x01020304u, 7u}) {
         message.frame = frame;
         nxproto::encodePreview(message, bytes);
-        QCOMPARE(bytes.size(), nxproto::kHeaderSize + 4 + sizeof message.colors);
         QCOMPARE(bytes, nxproto::encodePreview(message));
-
-        nxproto::FrameDecoder decoder;
-        decoder.feed(bytes.data(), bytes.size());
-        nxproto::Frame decoded;
-        QCOMPARE(decoder.next(decoded), nxproto::FrameDecoder::Status::Frame);
-        QCOMPARE(decoder.next(decoded), nxproto::FrameDecoder::Status::NeedMore);
-        nxproto::PreviewMessage back;
-        std::string error;
-        QVERIFY2(nxproto::decodePreview(decoded, back, &error), error.c_str());
-        QCOMPARE(back.frame, frame);
-        QVERIFY(std::equal(&back.colors[0][0], &back.colors[0][0] + sizeof back.colors / 4,
-                           &message.colors[0][0]));
     }
-    // Little-endian on the wire, whatever the machine: the length (after its own field), the
-    // version, the type, then the frame number.
-    QCOMPARE(bytes[0], uint8_t((bytes.size() - 4) & 0xFF));
-    QCOMPARE(bytes[1], uint8_t((bytes.size() - 4) >> 8));
-    QCOMPARE(bytes[4], uint8_t(nxproto::kProtocolVersion));
-    QCOMPARE(bytes[8], uint8_t(7));
-    QCOMPARE(bytes[12], uint8_t(0xC0));
 }
 
 QTEST_GUILESS_MAIN(TestServiceWakeups)
