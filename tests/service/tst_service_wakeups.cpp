@@ -4,12 +4,10 @@
 #include "FixtureRoot.h"
 #include "Messages.h"
 #include "RawClient.h"
-#include "ResumeWatch.h"
 #include "ServiceProcess.h"
 
 #include <QDateTime>
 #include <QFile>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -97,8 +95,6 @@ class TestServiceWakeups : public QObject
 private slots:
     void readingsFollowTheClients();
     void rulesKeepWatching();
-    void resumeWatchRestartsClean();
-    void previewEncodedInPlace();
 };
 
 void TestServiceWakeups::readingsFollowTheClients()
@@ -166,38 +162,6 @@ void TestServiceWakeups::rulesKeepWatching()
     QTRY_VERIFY_WITH_TIMEOUT(service.log().count(QStringLiteral("memory load rule ended")) == 2,
                              20000);
     QTRY_VERIFY_WITH_TIMEOUT(staysAsleep(service), 30000);
-}
-
-void TestServiceWakeups::resumeWatchRestartsClean()
-{
-    ResumeWatch watch;
-    QSignalSpy resumed(&watch, &ResumeWatch::resumed);
-    // The clocks as they were long ago: a stopped watch must forget them.
-    watch.check(0, 0);
-    watch.setActive(false);
-    watch.setActive(true);
-    QCOMPARE(resumed.count(), 0);
-    // Running, it still notices a jump of the wall clock.
-    const qint64 wall = QDateTime::currentMSecsSinceEpoch();
-    QVERIFY(!watch.check(wall, 1000));
-    QVERIFY(watch.check(wall + 60000, 2000));
-}
-
-// Encoded into the longer buffer of the frames before, a preview is byte for byte the one
-// encoded afresh.
-void TestServiceWakeups::previewEncodedInPlace()
-{
-    nxproto::PreviewMessage message;
-    for (int slot = 0; slot < nxproto::kSlotCount; ++slot) {
-        for (int led = 0; led < nxproto::kLedCount; ++led)
-            message.colors[slot][led] = COLORREF(0xA0B0C0u + uint32_t(slot * 256 + led));
-    }
-    std::vector<uint8_t> bytes(2000, 0xEE);
-    for (uint32_t frame : {0x01020304u, 7u}) {
-        message.frame = frame;
-        nxproto::encodePreview(message, bytes);
-        QCOMPARE(bytes, nxproto::encodePreview(message));
-    }
 }
 
 QTEST_GUILESS_MAIN(TestServiceWakeups)

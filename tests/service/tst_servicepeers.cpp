@@ -12,13 +12,8 @@
 #include <QtTest>
 
 #include <csignal>
-#include <cstring>
 #include <memory>
-#include <poll.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/un.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace nxproto;
@@ -173,46 +168,6 @@ private slots:
         const QByteArray output = runLibrary(environment(QString()), 1000);
         QVERIFY2(output.contains("memoryCount=-1\n"), output.constData());
         QVERIFY(!trap.hasPendingConnections());
-    }
-
-    // The service refuses a client running as another user, even when the socket's file lets
-    // it in: it closes the connection unanswered.
-    void clientsOfAnotherUserAreRefused()
-    {
-        if (::geteuid() != 0)
-            QSKIP("needs to run a peer as another user");
-        constexpr uid_t kOther = 4242;
-        const QString runtimeDir = privateRuntimeDir();
-        const QByteArray socketPath =
-            QFile::encodeName(runtimeDir + QLatin1Char('/') + QLatin1String(kSocketFileName));
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        std::strncpy(address.sun_path, socketPath.constData(), sizeof address.sun_path - 1);
-
-        // A client of another uid, let through by a socket file opened up to everyone.
-        auto service = startService(runtimeDir, runtimeDir);
-        QVERIFY(service->start());
-        for (const QString& dir : {dir_->path(), runtimeDir})
-            QVERIFY(::chmod(QFile::encodeName(dir).constData(), 0755) == 0);
-        QVERIFY(::chmod(socketPath.constData(), 0666) == 0);
-        const pid_t client = ::fork();
-        if (client == 0) {
-            // Exit status: 0 no answer, 1 answered, 2 could not connect, 3 could not change uid.
-            const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
-            if (::setgid(kOther) != 0 || ::setuid(kOther) != 0)
-                ::_exit(3);
-            if (::connect(fd, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0)
-                ::_exit(2);
-            pollfd wait{fd, POLLIN, 0};
-            char byte = 0;
-            ::_exit(::poll(&wait, 1, 3000) == 1 && ::read(fd, &byte, 1) == 1 ? 1 : 0);
-        }
-        int status = -1;
-        QCOMPARE(::waitpid(client, &status, 0), client);
-        QVERIFY(WIFEXITED(status));
-        if (WEXITSTATUS(status) == 3)
-            QSKIP("this system does not let root change its uid");
-        QCOMPARE(WEXITSTATUS(status), 0);
     }
 
     // A peer that takes each connection and drops it is retried with growing pauses.
