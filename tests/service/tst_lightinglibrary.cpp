@@ -108,30 +108,22 @@ private slots:
         QVERIFY(service_->start());
         QVERIFY(QTest::qWaitFor([&] { return serviceState().module(2).lightMode == 19; }, 3000));
 
-        // Colours and the slot order across a restart are the e2e journey's to check.
+        // What the library set reaches the disk; a restarted service's whole state replaces
+        // the library's copy and raises an event. The e2e journey checks the rest of the state
+        // across a restart; here, a record with its reserved fields.
         NotiEventData noti = {};
         noti.shutdownMemoryValue = 61;
         noti.reserved0 = 12345;
-        const SettingData setting{4, false, true, true, 0};
-        api_.SetValueLighting(1, 27, 3, 0, true);
         api_.SetNotiEvent(noti);
-        api_.SetSettingValue(setting);
-        QVERIFY(QTest::qWaitFor([&] { return serviceState().setting.languageIndex == 4; }, 3000));
-        QTest::qWait(100); // the library sees its requests acknowledged
-
-        QVERIFY(service_->quitByMessage());
-        QCOMPARE(service_->exitCode(), 0);
-        // The restarted service's whole state replaces the library's copy and raises an event.
+        QVERIFY(QTest::qWaitFor([&] { return serviceState().noti.reserved0 == 12345; }, 3000));
+        QTest::qWait(100); // the library sees its request acknowledged
+        QVERIFY(service_->terminate());
         const int events = lightModeEvents;
         QVERIFY(service_->start());
         QVERIFY(waitForEvent(events));
-        QCOMPARE(api_.GetValueLightMode(1), 27);
-        QCOMPARE(api_.GetValueColorMode(1), 3);
-        QCOMPARE(api_.GetValueTurnOff(1), uint8_t(1));
+        QCOMPARE(api_.GetValueLightMode(2), 19);
         const NotiEventData notiBack = api_.GetNotiEvent();
         QCOMPARE(std::memcmp(&notiBack, &noti, sizeof noti), 0);
-        const SettingData settingBack = api_.GetSettingValue();
-        QCOMPARE(std::memcmp(&settingBack, &setting, sizeof setting), 0);
     }
 
     // A profile switch shows the other profile's copy at once and reaches the service; another
