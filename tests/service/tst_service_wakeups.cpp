@@ -60,21 +60,16 @@ bool nextHardware(RawClient& client, nxproto::HardwareInfo& hardware)
            nxproto::decodeHardware(frame, hardware, nullptr);
 }
 
-nxproto::Request notification(const NotiEventData& noti)
-{
-    nxproto::Request request;
-    request.type = nxproto::MessageType::SetNotification;
-    request.noti = noti;
-    return request;
-}
-
 // Sends the rules and waits until they are saved.
 bool setRules(Service& service, const NotiEventData& noti)
 {
     RawClient client;
     nxproto::StateMessage state;
+    nxproto::Request request;
+    request.type = nxproto::MessageType::SetNotification;
+    request.noti = noti;
     return service.connect(client) && client.waitForState(&state, 0, 10000) &&
-           client.waitForState(&state, client.send(notification(noti)), 10000);
+           client.waitForState(&state, client.send(request), 10000);
 }
 
 // Whether the main thread stays asleep for a few seconds: longer than the hardware's refresh
@@ -93,65 +88,46 @@ class TestServiceWakeups : public QObject
     Q_OBJECT
 
 private slots:
-    void readingsFollowTheClients();
-    void rulesKeepWatching();
+    void readingsFollowClientsAndRules();
 };
 
-void TestServiceWakeups::readingsFollowTheClients()
+void TestServiceWakeups::readingsFollowClientsAndRules()
 {
     fixture::Root root;
     root.meminfo(1000, 900);
     Service service(root);
     QVERIFY(service.started());
-    {
-        RawClient client;
-        nxproto::HardwareInfo hardware;
-        QVERIFY(service.connect(client));
-        QVERIFY(nextHardware(client, hardware));
-        QCOMPARE(hardware.memoryLoad, 10.0);
-        // A connected client sees the readings change.
-        root.meminfo(1000, 600);
-        QTRY_VERIFY_WITH_TIMEOUT(nextHardware(client, hardware) && hardware.memoryLoad == 40.0,
-                                 20000);
-    }
 
     // Nobody listens: the service sleeps, and the load it last read grows stale.
     QTRY_VERIFY_WITH_TIMEOUT(staysAsleep(service), 30000);
     root.meminfo(1000, 300);
     const qint64 before = QDateTime::currentSecsSinceEpoch();
+    {
+        // The next client is told the load of now at once, not the one read before the pause,
+        // and sees it change; a client that only listens keeps the service awake.
+        RawClient client;
+        nxproto::HardwareInfo hardware;
+        QVERIFY(service.connect(client));
+        QVERIFY(nextHardware(client, hardware));
+        QCOMPARE(hardware.memoryLoad, 70.0);
+        QVERIFY(qint64(hardware.updateTime) >= before);
+        root.meminfo(1000, 500);
+        QTRY_VERIFY_WITH_TIMEOUT(nextHardware(client, hardware) && hardware.memoryLoad == 50.0,
+                                 20000);
+        QVERIFY(!staysAsleep(service));
+    }
 
-    // The next client is told the load of now at once, not the one read before the pause.
-    RawClient client;
-    nxproto::HardwareInfo hardware;
-    QVERIFY(service.connect(client));
-    QVERIFY(nextHardware(client, hardware));
-    QCOMPARE(hardware.memoryLoad, 70.0);
-    QVERIFY(qint64(hardware.updateTime) >= before);
-    root.meminfo(1000, 500);
-    QTRY_VERIFY_WITH_TIMEOUT(nextHardware(client, hardware) && hardware.memoryLoad == 50.0, 20000);
-    // A client that only listens keeps the service awake.
-    QVERIFY(!staysAsleep(service));
-}
-
-void TestServiceWakeups::rulesKeepWatching()
-{
-    fixture::Root root;
-    root.meminfo(1000, 900);
-    Service service(root);
-    QVERIFY(service.started());
+    // No client is left, but a load rule still follows the readings.
     NotiEventData noti = {};
     noti.loadingSwitch = true;
     noti.loadingValue = 50;
     QVERIFY(setRules(service, noti));
-
-    // No client is left, but the load rule still follows the readings.
     root.meminfo(1000, 100);
     QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("memory load 90 % above 50 %")),
                              20000);
     root.meminfo(1000, 800);
     QTRY_VERIFY_WITH_TIMEOUT(service.log().contains(QStringLiteral("memory load rule ended")),
                              20000);
-    QVERIFY(!staysAsleep(service));
 
     // Turned off while it holds, the rule ends at once, though nothing is read any more, and
     // the service sleeps again.
