@@ -20,9 +20,6 @@ using namespace nxproto;
 
 namespace {
 
-// The most clients the service serves at once.
-constexpr int kServerLimit = 64;
-
 int modeOf(const QString& path)
 {
     struct stat info {
@@ -46,18 +43,10 @@ class TestServicePeers : public QObject
 {
     Q_OBJECT
 
+    // A private folder, 0700 as the session makes the runtime folder.
     std::unique_ptr<QTemporaryDir> dir_;
 
     QString path(const QString& name) const { return dir_->filePath(name); }
-    // A runtime folder as the session makes it: the user's alone.
-    QString privateRuntimeDir()
-    {
-        const QString dir = path(QStringLiteral("runtime"));
-        if (!QDir().mkpath(dir) || ::chmod(QFile::encodeName(dir).constData(), 0700) != 0)
-            qWarning("cannot make the runtime folder");
-        return dir;
-    }
-
     // Where both sides go when XDG_RUNTIME_DIR is not private.
     QString fallbackDir() const
     {
@@ -173,7 +162,7 @@ private slots:
     // A peer that takes each connection and drops it is retried with growing pauses.
     void droppedConnectionsBackOff()
     {
-        const QString runtimeDir = privateRuntimeDir();
+        const QString runtimeDir = dir_->path();
         QLocalServer dropper;
         int connections = 0;
         connect(&dropper, &QLocalServer::newConnection, this, [&]() {
@@ -197,12 +186,12 @@ private slots:
     // that never read are dropped before the service grows, and it serves the next one.
     void idleAndNonReadingClients()
     {
-        const QString runtimeDir = privateRuntimeDir();
+        const QString runtimeDir = dir_->path();
         auto service = startService(runtimeDir, runtimeDir);
         QVERIFY(service->start());
 
         std::vector<std::unique_ptr<QLocalSocket>> silent;
-        for (int i = 0; i < kServerLimit; ++i) {
+        for (int i = 0; i < 64; ++i) { // as many as the service serves at once
             silent.push_back(std::make_unique<QLocalSocket>());
             silent.back()->connectToServer(service->socketPath());
             QVERIFY(silent.back()->waitForConnected(2000));
