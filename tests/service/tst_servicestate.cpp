@@ -1,14 +1,12 @@
 // The service's state, driven as a process through its socket: requests that change nothing,
-// kills in the middle of bursts, saves that cannot complete, unusual files at start and frames
-// it must refuse.
+// saves that cannot complete, unusual files at start and frames it must refuse. Kills in the
+// middle of bursts are the library test's.
 
 #include "RawClient.h"
 #include "ServiceProcess.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -130,61 +128,6 @@ private slots:
         QCOMPARE(state.state.profile, 2);
         QCOMPARE(state.state.profiles[0][3].lightMode, 20);
         QCOMPARE(state.state.profiles[2][3].lightMode, defaultModuleLighting().lightMode);
-    }
-
-    // SIGKILL at random moments of bursts of colour changes: every change the service
-    // acknowledged, even in the last bytes before the kill, is there after the restart, and no
-    // temporary file is left beside the state.
-    void killsLoseNothingAcknowledged()
-    {
-        QRandomGenerator random(QRandomGenerator::global()->generate());
-        uint32_t value = 0;
-        for (int kill = 0; kill < 30; ++kill) {
-            RawClient client;
-            connectAndReadState(client);
-            // seq -> (slot, value): each change gives its slot a new, larger value in LED 0.
-            QHash<uint32_t, QPair<int, uint32_t>> made;
-            uint32_t acked[kSlotCount] = {};
-            const auto take = [&](const StateMessage& state) {
-                for (auto it = made.begin(); it != made.end();) {
-                    if (it.key() > state.ackSeq) {
-                        ++it;
-                        continue;
-                    }
-                    acked[it->first] = qMax(acked[it->first], it->second);
-                    it = made.erase(it);
-                }
-            };
-            StateMessage state;
-            for (int i = 20 + random.bounded(200); i > 0; --i) {
-                Request colors;
-                colors.type = MessageType::SetColors;
-                colors.slot = random.bounded(kSlotCount);
-                colors.count = 1;
-                colors.rgb[0] = ++value;
-                colors.bright[0] = colors.singleBright = 1.0f;
-                made.insert(client.send(colors), qMakePair(colors.slot, value));
-                while (client.waitForState(&state, 0, 1))
-                    take(state);
-            }
-            QThread::usleep(random.bounded(3000));
-            service_->kill();
-            while (client.waitForState(&state, 0, 200))
-                take(state);
-
-            QVERIFY(service_->start());
-            RawClient after;
-            const StateMessage restarted = connectAndReadState(after);
-            for (int slot = 0; slot < kSlotCount; ++slot) {
-                // Not lost, and not invented: an untouched slot keeps its default.
-                const uint32_t kept = restarted.state.module(slot).rgb[0];
-                QVERIFY2(kept >= acked[slot] && (kept <= value || acked[slot] == 0),
-                         qPrintable(QStringLiteral("kill %1, slot %2").arg(kill).arg(slot)));
-            }
-            QCOMPARE(QDir(filePath(QStringLiteral("norvalex")))
-                         .entryList(QDir::Files | QDir::Hidden | QDir::System),
-                     QStringList{QStringLiteral("control-state.json")});
-        }
     }
 
     // A save that cannot complete leaves the good file as it was and is not acknowledged; the
