@@ -47,14 +47,9 @@ class TestLightingLibrary : public QObject
     LightingApi api_;
     std::unique_ptr<ServiceProcess> service_;
 
-    // The state as the service holds it, read by a client of its own.
     ControlState serviceState()
     {
-        RawClient probe;
-        StateMessage state;
-        if (!probe.connectTo(service_->socketPath()) || !probe.waitForState(&state))
-            qWarning("no state from the service");
-        return state.state;
+        return RawClient().connectForState(service_->socketPath()).state;
     }
 
 private slots:

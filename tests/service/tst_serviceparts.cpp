@@ -1,6 +1,5 @@
-// Parts of the service on their own: its help, the desktop's language for a fresh state, the
-// time of day for clock effects, the resume watch and the preview encoding.
-#include "DesktopLanguage.h"
+// Parts of the service on their own: its help, the time of day for clock effects, the resume
+// watch and the preview encoding.
 #include "LocalClock.h"
 #include "Messages.h"
 #include "ResumeWatch.h"
@@ -30,16 +29,6 @@ private slots:
             QVERIFY(service.readAllStandardOutput().contains("--modules"));
             QVERIFY(QDir(dir.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries).isEmpty());
         }
-    }
-
-    // The desktop suite checks a fresh state in the desktop's language; here, the rules it does
-    // not reach: Traditional by region, the first language the panel speaks, garbage.
-    void desktopLanguage()
-    {
-        QCOMPARE(DesktopLanguage::indexFor({"zh-HK"}), 1);
-        QCOMPARE(DesktopLanguage::indexFor({"zh-CN", "zh"}), 2);
-        QCOMPARE(DesktopLanguage::indexFor({"pt-BR", "pt", "es"}), 9);
-        QCOMPARE(DesktopLanguage::indexFor({"", "xx-!!"}), 0);
     }
 
     // Arithmetic at zone offsets and day edges, and agreement with the C library's local time

@@ -54,13 +54,9 @@ class TestServiceState : public QObject
         service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
         return *service_;
     }
-    // Connects `client` and returns the first state the service sends it.
     StateMessage connectAndReadState(RawClient& client) const
     {
-        StateMessage state;
-        if (!client.connectTo(service_->socketPath()) || !client.waitForState(&state))
-            qWarning("no state from the service");
-        return state;
+        return client.connectForState(service_->socketPath());
     }
 
 private slots:
