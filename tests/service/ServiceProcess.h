@@ -31,14 +31,11 @@ public:
             kill();
     }
 
-    // Changes the environment of the next start; an empty value removes the variable.
+    // Changes the environment of the next start.
     void setEnvironment(const QString& name, const QString& value)
     {
         QProcessEnvironment env = process_.processEnvironment();
-        if (value.isEmpty())
-            env.remove(name);
-        else
-            env.insert(name, value);
+        env.insert(name, value);
         process_.setProcessEnvironment(env);
     }
     // Where the socket is expected, when the test changes the runtime directory.

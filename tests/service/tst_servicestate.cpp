@@ -217,7 +217,6 @@ private slots:
         const QByteArray corpus[] = {
             QByteArray::fromHex("0100010001001000"), // length 65537, above the maximum
             bytesOf(encodeFrame(0x10, payload, kProtocolVersion + 1)),
-            bytesOf(encodeFrame(0x4242, {1, 1, 1, 1})),
             bytesOf(encodeFrame(0x10, std::vector<uint8_t>(payload.begin(), payload.end() - 1))),
             bytesOf(encodeRequest(lightingRequest(8, 0))),
             bytesOf(encodeRequest(nanBright)),
