@@ -31,11 +31,14 @@ public:
             kill();
     }
 
-    // Changes the environment of the next start.
+    // Changes the environment of the next start; an empty value removes the variable.
     void setEnvironment(const QString& name, const QString& value)
     {
         QProcessEnvironment env = process_.processEnvironment();
-        env.insert(name, value);
+        if (value.isEmpty())
+            env.remove(name);
+        else
+            env.insert(name, value);
         process_.setProcessEnvironment(env);
     }
     // Where the socket is expected, when the test changes the runtime directory.
