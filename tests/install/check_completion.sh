@@ -31,5 +31,4 @@ expect() {
 expect --json st -- status stop
 expect mode shoot -- shooting-star
 expect color ff0000 --slot "" -- 1 2 3 4 5 6 7 8
-expect brightness 40 --l --
 exit $failures
