@@ -2,6 +2,7 @@
 
 #include "AppGlobals.h"
 #include "ColorEntry.h"
+#include "FocusOrder.h"
 #include "LightModeTable.h"
 #include "LightingDeck.h"
 #include "LightingLook.h"
@@ -90,6 +91,14 @@ Lighting_View::Lighting_View(QWidget* parent) : QWidget(parent)
     connect(widget_Light_Mode_View, &Widget_Light_Mode_View::keyboardFinished, this,
             &Lighting_View::returnFromModeList);
     applyLanguageFonts();
+
+    // Tab reads the page as the eye does: the profiles and the slot editor next to the menu,
+    // then the modules and their rows, then the controls below them.
+    QList<QWidget*> first(std::begin(btn_Profile), std::end(btn_Profile));
+    first << btn_Edit << btn_Edit_Apply << btn_Edit_Cancel;
+    first += QList<QWidget*>(std::begin(memoryRGBView), std::end(memoryRGBView));
+    first += QList<QWidget*>(std::begin(btn_SelectHorizontal), std::end(btn_SelectHorizontal));
+    FocusOrder::placeFirst(this, first);
 }
 
 Lighting_View::~Lighting_View()

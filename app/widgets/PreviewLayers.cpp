@@ -58,6 +58,24 @@ const QPixmap& PreviewLayers::frame(const QSize& size, qreal pixelRatio, bool em
     return m_frame;
 }
 
+const QPixmap& PreviewLayers::outline(const QSize& bar, const QColor& color, qreal pixelRatio)
+{
+    if (m_outlineBar == bar && m_outlineColor == color && qFuzzyCompare(m_outlineRatio, pixelRatio))
+        return m_outline;
+    m_outlineBar = bar;
+    m_outlineColor = color;
+    m_outlineRatio = pixelRatio;
+    // A whole-pixel shift leaves antialiasing's coverage as it is: blitting this over a bar
+    // blends the same pixels as stroking the bar's rectangle.
+    m_outline = blank(bar + QSize(2 * OutlineMargin, 2 * OutlineMargin), pixelRatio);
+    QPainter painter(&m_outline);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(color);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRect(QPoint(OutlineMargin, OutlineMargin), bar));
+    return m_outline;
+}
+
 const QPixmap& PreviewLayers::rim(const QSize& size, qreal pixelRatio)
 {
     if (m_rimSize == size && qFuzzyCompare(m_rimRatio, pixelRatio))

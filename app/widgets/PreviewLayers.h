@@ -4,9 +4,9 @@
 #include <QPolygon>
 #include <QRegion>
 
-// The constant parts of the preview's picture, stroked once with their gradient pens and kept
-// as see-through pixmaps: the frame, and the rim of the two-diamond ornament. Blitting them
-// gives the same pixels as stroking them on every paint, at a fraction of the cost.
+// The constant parts of the preview's picture, stroked once and kept as see-through pixmaps: the
+// frame, the outline of a bar, and the rim of the two-diamond ornament. Blitting them gives the
+// same pixels as stroking them on every paint, at a fraction of the cost.
 class PreviewLayers
 {
 public:
@@ -16,6 +16,8 @@ public:
     static constexpr int RimWidth = 31;
     static constexpr int RimTop = 97;
     static constexpr int RimHeight = 57;
+    // Pixels that antialiasing may touch around a bar's outline, counted generously.
+    static constexpr int OutlineMargin = 2;
     // Pixels of the frame's stroke reach this far in from every edge of the preview.
     static constexpr int FrameDepth = 3;
 
@@ -26,6 +28,9 @@ public:
     const QPixmap& frame(const QSize& size, qreal pixelRatio, bool empty);
     // The part of a preview of the given size that the frame may cover: a band along its edges.
     static QRegion frameBand(const QSize& size);
+    // The 1-pixel outline of a bar of the given size in the given colour, drawn OutlineMargin
+    // pixels up and left of the bar's top-left corner.
+    const QPixmap& outline(const QSize& bar, const QColor& color, qreal pixelRatio);
     // The rim of one ornament in a preview of the given size, for the bar at x = RimLeft; it
     // covers the rows RimTop to RimTop + RimHeight - 1 and is drawn there.
     const QPixmap& rim(const QSize& size, qreal pixelRatio);
@@ -37,6 +42,10 @@ private:
     QSize m_frameSize;
     qreal m_frameRatio = 0;
     bool m_frameEmpty = false;
+    QPixmap m_outline;
+    QSize m_outlineBar;
+    QColor m_outlineColor;
+    qreal m_outlineRatio = 0;
     QPixmap m_rim;
     QSize m_rimSize;
     qreal m_rimRatio = 0;

@@ -221,7 +221,7 @@ private slots:
         // Tab reaches the mode button (Qt's chain skips a widget with a focus proxy).
         QWidget* before = nullptr;
         for (QWidget* widget : page->findChildren<QWidget*>())
-            if (widget != mode && tabStop(widget) == mode)
+            if (widget != mode && widget->isVisible() && tabStop(widget) == mode)
                 before = widget;
         QVERIFY(before);
         before->setFocus(Qt::TabFocusReason);
