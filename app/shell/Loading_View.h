@@ -20,7 +20,6 @@ public:
     void isProductWarning(bool on);
 
     bool loading() const { return isLoading; }
-    int spinnerAngle() const { return angle; }
     const QTimer* spinnerTimer() const { return timer; }
 
     QLabel* label_Warning = nullptr;

@@ -36,9 +36,6 @@ public:
     // Private window messages: quit, bring to front, quit when started by the control service.
     void handleNativeMessage(unsigned message, quintptr wParam, qintptr lParam);
 
-    int storedSlotCount() const { return slotCount; }
-    int storedMemoryCount() const { return memoryCount; }
-
     // Pages, each null until first shown.
     Information_View* information_View = nullptr;
     Lighting_View* lighting_View = nullptr;

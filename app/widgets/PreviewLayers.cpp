@@ -66,7 +66,8 @@ const QPixmap& PreviewLayers::outline(const QSize& bar, const QColor& color, qre
     m_outlineColor = color;
     m_outlineRatio = pixelRatio;
     // A whole-pixel shift leaves antialiasing's coverage as it is: blitting this over a bar
-    // blends the same pixels as stroking the bar's rectangle.
+    // blends the same pixels as stroking the bar's rectangle, but for the corners, where the
+    // two edges' blends round once instead of twice (a level at most).
     m_outline = blank(bar + QSize(2 * OutlineMargin, 2 * OutlineMargin), pixelRatio);
     QPainter painter(&m_outline);
     painter.setRenderHint(QPainter::Antialiasing);

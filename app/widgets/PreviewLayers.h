@@ -6,7 +6,8 @@
 
 // The constant parts of the preview's picture, stroked once and kept as see-through pixmaps: the
 // frame, the outline of a bar, and the rim of the two-diamond ornament. Blitting them gives the
-// same pixels as stroking them on every paint, at a fraction of the cost.
+// same pixels as stroking them on every paint (a bar's corners may differ by a level), at a
+// fraction of the cost.
 class PreviewLayers
 {
 public:

@@ -9,17 +9,10 @@
 
 namespace {
 
-Display* dpy(void* display)
-{
-    return static_cast<Display*>(display);
-}
-
 // Without a window manager every top-level window is a child of the root window.
 Window findTopLevel(Display* display, const QByteArray& title)
 {
-    Window root = 0;
-    Window parent = 0;
-    Window* children = nullptr;
+    Window root = 0, parent = 0, *children = nullptr;
     unsigned count = 0;
     if (!XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count))
         return 0;
@@ -39,33 +32,15 @@ Window findTopLevel(Display* display, const QByteArray& title)
     return found;
 }
 
-// Runs xdotool with space-separated arguments.
-bool xdotool(const QString& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' ')));
-    if (process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit &&
-        process.exitCode() == 0)
-        return true;
-    qWarning().noquote() << "xdotool" << arguments
-                         << "failed:" << process.readAllStandardError().trimmed();
-    process.kill();
-    process.waitForFinished(1000);
-    return false;
-}
-
 } // namespace
 
 XSession::~XSession()
 {
     if (m_display)
-        XCloseDisplay(dpy(m_display));
-    if (m_server.state() != QProcess::NotRunning) {
-        m_server.terminate();
-        if (!m_server.waitForFinished(5000))
-            m_server.kill();
-        m_server.waitForFinished(2000);
-    }
+        XCloseDisplay(m_display);
+    m_server.terminate();
+    if (!m_server.waitForFinished(5000))
+        m_server.kill();
 }
 
 bool XSession::start()
@@ -75,15 +50,9 @@ bool XSession::start()
                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                     QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"),
                     QStringLiteral("tcp")});
-    QElapsedTimer clock;
-    clock.start();
     QByteArray number;
-    while (!number.endsWith('\n') && clock.elapsed() < 20000) {
-        if (m_server.state() == QProcess::NotRunning)
-            return false;
-        m_server.waitForReadyRead(200);
+    while (!number.endsWith('\n') && m_server.waitForReadyRead(20000))
         number += m_server.readAllStandardOutput();
-    }
     if (!number.endsWith('\n'))
         return false;
     const QByteArray name = ':' + number.trimmed();
@@ -97,8 +66,8 @@ unsigned long XSession::waitForWindow(const QByteArray& title, int timeoutMs)
     QElapsedTimer clock;
     clock.start();
     do {
-        XSync(dpy(m_display), False);
-        m_window = findTopLevel(dpy(m_display), title);
+        XSync(m_display, False);
+        m_window = findTopLevel(m_display, title);
         if (m_window)
             return m_window;
         QTest::qWait(100);
@@ -108,7 +77,7 @@ unsigned long XSession::waitForWindow(const QByteArray& title, int timeoutMs)
 
 bool XSession::startsIconic() const
 {
-    XWMHints* hints = XGetWMHints(dpy(m_display), m_window);
+    XWMHints* hints = XGetWMHints(m_display, m_window);
     if (!hints)
         return false;
     const bool iconic = (hints->flags & StateHint) && hints->initial_state == IconicState;
@@ -118,26 +87,31 @@ bool XSession::startsIconic() const
 
 void XSession::sendDeleteWindow() const
 {
-    Display* display = dpy(m_display);
     XEvent event = {};
     event.xclient.type = ClientMessage;
     event.xclient.window = m_window;
-    event.xclient.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
+    event.xclient.message_type = XInternAtom(m_display, "WM_PROTOCOLS", False);
     event.xclient.format = 32;
-    event.xclient.data.l[0] = long(XInternAtom(display, "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[0] = long(XInternAtom(m_display, "WM_DELETE_WINDOW", False));
     event.xclient.data.l[1] = CurrentTime;
-    XSendEvent(display, m_window, False, NoEventMask, &event);
-    XFlush(display);
+    XSendEvent(m_display, m_window, False, NoEventMask, &event);
+    XFlush(m_display);
+}
+
+bool XSession::xdotool(const QString& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral("xdotool"), arguments.split(QLatin1Char(' ')));
+    const bool ok = process.waitForFinished(30000) &&
+                    process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    if (!ok)
+        qWarning() << "xdotool" << arguments << process.readAllStandardError();
+    return ok;
 }
 
 QString XSession::moveTo(QPoint at) const
 {
     return QStringLiteral("mousemove --window %1 %2 %3").arg(m_window).arg(at.x()).arg(at.y());
-}
-
-bool XSession::click(QPoint at) const
-{
-    return xdotool(moveTo(at) + QStringLiteral(" click 1"));
 }
 
 bool XSession::drag(QPoint from, QPoint to, int steps) const
@@ -146,26 +120,6 @@ bool XSession::drag(QPoint from, QPoint to, int steps) const
     for (int step = 1; step <= steps; ++step)
         args += QStringLiteral(" sleep 0.05 ") + moveTo(from + (to - from) * step / steps);
     return xdotool(args + QStringLiteral(" sleep 0.1 mouseup 1"));
-}
-
-bool XSession::focus() const
-{
-    return xdotool(QStringLiteral("windowfocus --sync %1").arg(m_window));
-}
-
-bool XSession::keys(const QString& names) const
-{
-    return xdotool(QStringLiteral("key --delay 30 ") + names);
-}
-
-bool XSession::type(const QString& text) const
-{
-    return xdotool(QStringLiteral("type --delay 30 ") + text);
-}
-
-bool XSession::clearField(int length) const
-{
-    return keys(QStringLiteral("End") + QStringLiteral(" BackSpace").repeated(length));
 }
 
 QImage XSession::screenshot() const

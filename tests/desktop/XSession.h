@@ -13,10 +13,7 @@
 class XSession
 {
 public:
-    XSession() = default;
     ~XSession();
-    XSession(const XSession&) = delete;
-    XSession& operator=(const XSession&) = delete;
 
     // Starts Xvfb, connects to it and exports DISPLAY, so that every process started later
     // (the panel, the tools) runs on it.
@@ -25,7 +22,6 @@ public:
     // Waits for a viewable window whose title is exactly `title`; it becomes the window that
     // input and screenshots go to. 0 when none showed in time.
     unsigned long waitForWindow(const QByteArray& title, int timeoutMs);
-    unsigned long window() const { return m_window; }
 
     // WM_HINTS asks the window manager to map the window iconic (minimised).
     bool startsIconic() const;
@@ -34,23 +30,25 @@ public:
 
     // Pointer input in window coordinates; a drag moves in steps with short pauses so that the
     // toolkit sees the intermediate positions.
-    bool click(QPoint at) const;
+    bool click(QPoint at) const { return xdotool(moveTo(at) + QStringLiteral(" click 1")); }
     bool drag(QPoint from, QPoint to, int steps = 8) const;
     // Keyboard input goes to the window holding the X input focus; key names separated by
     // spaces, text without spaces.
-    bool focus() const;
-    bool keys(const QString& names) const;
-    bool type(const QString& text) const;
+    bool focus() const { return xdotool(QStringLiteral("windowfocus --sync %1").arg(m_window)); }
+    bool keys(const QString& names) const { return xdotool("key --delay 30 " + names); }
+    bool type(const QString& text) const { return xdotool("type --delay 30 " + text); }
     // Empties the focused text field the way a user does, from its end.
-    bool clearField(int length = 6) const;
+    bool clearField() const { return keys("End" + QStringLiteral(" BackSpace").repeated(6)); }
 
     // The window's pixels as the X server holds them; null on failure.
     QImage screenshot() const;
 
 private:
+    // Runs xdotool with space-separated arguments.
+    static bool xdotool(const QString& arguments);
     QString moveTo(QPoint at) const;
 
     QProcess m_server;
-    void* m_display = nullptr;
+    struct _XDisplay* m_display = nullptr;
     unsigned long m_window = 0;
 };

@@ -13,7 +13,6 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include <algorithm>
 #include <memory>
 
 // Where things are in the panel's window. The panel lays its widgets out at fixed positions, so
@@ -22,12 +21,12 @@
 class PanelLayout
 {
 public:
-    PanelLayout(int slotCount, int memoryCount, int ledCount)
+    PanelLayout(int modules, int ledCount)
     {
         frame_->setAttribute(Qt::WA_DontShowOnScreen);
         frame_->show();
         frame_->setQXModuleType({QStringLiteral("KX44")});
-        frame_->setSlotNumber(slotCount, memoryCount);
+        frame_->setSlotNumber(modules, modules);
         QTest::mouseClick(frame_->btn_Lighting, Qt::LeftButton);
         int leds[8];
         std::fill(std::begin(leds), std::end(leds), ledCount);
@@ -35,34 +34,26 @@ public:
         QTest::mouseClick(frame_->btn_Info, Qt::LeftButton);
     }
 
-    // The window position of a point of a widget (its centre by default).
-    QPoint at(const QWidget* widget, QPoint offset = {-1, -1}) const
-    {
-        if (!widget)
-            return {};
-        const QPoint local = offset.x() < 0 ? widget->rect().center() : offset;
-        return widget->mapTo(frame_.get(), local);
-    }
+    // The window position of a widget's centre, and its rectangle.
+    QPoint at(const QWidget* widget) const { return rectOf(widget).center(); }
     QRect rectOf(const QWidget* widget) const
     {
-        return widget ? QRect(at(widget, {0, 0}), widget->size()) : QRect();
+        return widget ? QRect(widget->mapTo(frame_.get(), QPoint()), widget->size()) : QRect();
     }
 
     Main_View* frame() const { return frame_.get(); }
-    QWidget* lightingPage() const { return frame_->lighting_View; }
-
-    template <typename T = QWidget> T* named(QWidget* parent, const char* name) const
+    QWidget* named(QWidget* parent, const char* name) const
     {
-        return parent ? parent->findChild<T*>(QLatin1String(name)) : nullptr;
+        return parent ? parent->findChild<QWidget*>(QLatin1String(name)) : nullptr;
     }
     QWidget* lighting(const char* name) const { return named(frame_->lighting_View, name); }
 
     Memory_RGB_View* strip(int slot) const
     {
-        const auto strips = frame_->lighting_View->findChildren<Memory_RGB_View*>();
-        const auto found = std::find_if(strips.begin(), strips.end(),
-                                        [slot](auto* strip) { return strip->slotNumber == slot; });
-        return found == strips.end() ? nullptr : *found;
+        for (Memory_RGB_View* strip : frame_->lighting_View->findChildren<Memory_RGB_View*>())
+            if (strip->slotNumber == slot)
+                return strip;
+        return nullptr;
     }
     QRect ledRect(int slot, int led) const
     {
@@ -70,21 +61,18 @@ public:
         return s ? rectOf(s->btn_Led[led]) : QRect();
     }
 
-    // The entry of the light-mode list for a mode; the list is opened here to lay it out.
+    // The entries of the light-mode and language lists; each list is opened here to lay it out.
     QPoint lightModeEntry(int mode) const
     {
+        QTest::mouseClick(lighting("btn_LightMode"), Qt::LeftButton);
         auto* list = frame_->lighting_View->findChild<Widget_Light_Mode_View*>();
-        QTest::mouseClick(named<QPushButton>(frame_->lighting_View, "btn_LightMode"),
-                          Qt::LeftButton);
         return at(named(list, QByteArray::number(mode).constData()));
     }
-    // The entry of the language list for a language index, laid out the same way.
     QPoint languageEntry(int language) const
     {
         QTest::mouseClick(frame_->btn_Setting, Qt::LeftButton);
-        QWidget* page = frame_->setting_View;
-        QTest::mouseClick(named<QPushButton>(page, "btn_Language"), Qt::LeftButton);
-        auto* list = page->findChild<Widget_Language*>();
+        QTest::mouseClick(named(frame_->setting_View, "btn_Language"), Qt::LeftButton);
+        auto* list = frame_->setting_View->findChild<Widget_Language*>();
         return at(named(list, QByteArray::number(language).constData()));
     }
     QPoint notiField(const char* name) const

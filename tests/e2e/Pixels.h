@@ -10,14 +10,18 @@
 // Measures of a screenshot.
 namespace Pixels {
 
+template <typename F> void forEach(const QImage& image, QRect area, F f)
+{
+    area &= image.rect();
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            f(QPoint(x, y), image.pixel(x, y));
+}
+
 inline int brightest(const QImage& image, QRect area)
 {
     int best = -1;
-    area &= image.rect();
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x)
-            best = std::max(best, qGray(image.pixel(x, y)));
-    }
+    forEach(image, area, [&](QPoint, QRgb c) { best = std::max(best, qGray(c)); });
     return best;
 }
 
@@ -25,15 +29,11 @@ inline int brightest(const QImage& image, QRect area)
 inline int countNear(const QImage& image, QRect area, QColor colour, int tolerance)
 {
     int count = 0;
-    area &= image.rect();
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            const QRgb c = image.pixel(x, y);
-            count += std::abs(qRed(c) - colour.red()) <= tolerance &&
-                     std::abs(qGreen(c) - colour.green()) <= tolerance &&
-                     std::abs(qBlue(c) - colour.blue()) <= tolerance;
-        }
-    }
+    forEach(image, area, [&](QPoint, QRgb c) {
+        count += std::abs(qRed(c) - colour.red()) <= tolerance &&
+                 std::abs(qGreen(c) - colour.green()) <= tolerance &&
+                 std::abs(qBlue(c) - colour.blue()) <= tolerance;
+    });
     return count;
 }
 
@@ -41,14 +41,9 @@ inline int countNear(const QImage& image, QRect area, QColor colour, int toleran
 inline double changedShare(const QImage& a, const QImage& b, QRect area)
 {
     area &= a.rect() & b.rect();
-    if (area.isEmpty())
-        return 0;
     int changed = 0;
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x)
-            changed += a.pixel(x, y) != b.pixel(x, y);
-    }
-    return double(changed) / (area.width() * area.height());
+    forEach(a, area, [&](QPoint p, QRgb c) { changed += c != b.pixel(p); });
+    return area.isEmpty() ? 0 : double(changed) / (area.width() * area.height());
 }
 
 } // namespace Pixels

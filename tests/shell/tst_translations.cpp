@@ -17,7 +17,6 @@
 #include <QLabel>
 #include <QXmlStreamReader>
 
-#include <cstring>
 #include <map>
 
 namespace {
@@ -72,145 +71,102 @@ QStringList visibleTexts(QWidget* top)
     return texts;
 }
 
-HWData sampleData()
-{
-    HWData hw;
-    std::memset(&hw, 0, sizeof hw);
-    hw.memoryCount = hw.slotCount = 4;
-    hw.frequency = 3200;
-    hw.casLatency = 16;
-    hw.tRCD = 18;
-    hw.channel = 2;
-    hw.physicalMemoryUsed = 9000;
-    hw.memoryLoad = 42.5;
-    for (int i = 0; i < 4; ++i) {
-        hw.slotIndex[i] = i;
-        hw.memoryData[i].memoryModuleSize = 8192;
-        hw.memoryData[i].frequency = 3200;
-        hw.memoryData[i].temperature = 38;
-        std::strcpy(hw.memoryData[i].type, "DDR4");
-    }
-    return hw;
-}
-
 } // namespace
 
 class tst_Translations : public QObject
 {
     Q_OBJECT
 
+    std::map<QString, Catalogue> m_catalogues;
+
 private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-    void sourcesAreCompleteInEveryLanguage();
-    void everyPageSwitchesLanguageCompletely();
-    void termsAgreeAcrossPages();
 
-private:
-    std::map<QString, Catalogue> m_catalogues;
+    // Every language has every source English has and no other; in each, the load reads the
+    // same on the Information and the Notification page, and every light mode and speed has a
+    // name of its own.
+    void sourcesAreCompleteAndTermsAgree()
+    {
+        QStringList problems;
+        for (int i = 0; i < Languages::kCount; ++i)
+            m_catalogues[Languages::codeForIndex(i)] =
+                readCatalogue(Languages::codeForIndex(i), problems);
+        const Catalogue& english = m_catalogues["en"];
+        QVERIFY(english.size() > 100);
+        for (const auto& [code, c] : m_catalogues) {
+            for (const auto& entry : english)
+                if (!c.count(entry.first))
+                    problems << code + " lacks " + entry.first;
+            QSet<QString> names;
+            int count = 0;
+            for (const auto& [key, translation] : c) {
+                if (!english.count(key))
+                    problems << code + " has " + key + ", English has not";
+                if (key.startsWith(QLatin1String("Lighting_View/")) && key.count('/') == 1) {
+                    names.insert(translation.toCaseFolded());
+                    ++count;
+                }
+            }
+            if (names.size() != count)
+                problems << code + ": two Lighting captions read the same";
+            if (c.at("Information_View/Load") != c.at("Noti_View/Loading"))
+                problems << code + ": two words for the load";
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
+    }
+
+    // After a language switch no visible text on any page or in the consent dialog is a source
+    // key that the language translates differently.
+    void everyPageSwitchesLanguageCompletely()
+    {
+        QVERIFY(!m_catalogues.empty());
+        extendedFeatures = isNewMode = true;
+        Main_View frame;
+        frame.show();
+        void (Main_View::*const pages[])() = {
+            &Main_View::slot_show_Lighting, &Main_View::slot_show_Noti,
+            &Main_View::slot_show_Setting, &Main_View::slot_show_Info};
+        for (const auto page : pages)
+            (frame.*page)();
+        Widget_LocationPolicy consent;
+        QStringList problems;
+        HWData hw{};
+        hw.memoryCount = hw.slotCount = 4;
+
+        for (int index = 0; index < Languages::kCount; ++index) {
+            const QString code = Languages::codeForIndex(index);
+            QTranslator translator;
+            QVERIFY(translator.load(Languages::fileForIndex(index)));
+            QCoreApplication::installTranslator(&translator);
+            currentLanguage = index;
+            frame.updateLanguage_MainView();
+            frame.setting_View->setSettingData(SettingData{index, true, true, false, 0});
+            frame.information_View->setHWData(hw);
+            consent.retranslate();
+
+            QStringList texts = visibleTexts(&consent);
+            for (const auto page : pages) {
+                (frame.*page)();
+                texts << visibleTexts(&frame);
+            }
+            for (const QString& text : qAsConst(texts)) {
+                for (const auto& [key, translation] : m_catalogues[code]) {
+                    const QString source = key.mid(key.indexOf('/') + 1);
+                    // A key shown as it stands although this language says otherwise;
+                    // captions ending in ':' are followed by a value.
+                    const bool keyShown =
+                        text == source || (source.endsWith(':') && text.startsWith(source) &&
+                                           !translation.startsWith(source));
+                    if (keyShown && translation != source)
+                        problems << code + ": \"" + text + "\" (" + key + ") left untranslated";
+                }
+            }
+            QCoreApplication::removeTranslator(&translator);
+        }
+        problems.removeDuplicates();
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
+    }
 };
-
-void tst_Translations::sourcesAreCompleteInEveryLanguage()
-{
-    QStringList problems;
-    for (int i = 0; i < Languages::kCount; ++i)
-        m_catalogues[Languages::codeForIndex(i)] =
-            readCatalogue(Languages::codeForIndex(i), problems);
-    const Catalogue& english = m_catalogues["en"];
-    QVERIFY(english.size() > 100);
-    for (const auto& [code, catalogue] : m_catalogues) {
-        for (const auto& entry : english)
-            if (!catalogue.count(entry.first))
-                problems << code + " lacks " + entry.first;
-        for (const auto& entry : catalogue)
-            if (!english.count(entry.first))
-                problems << code + " has " + entry.first + ", English has not";
-    }
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
-}
-
-void tst_Translations::termsAgreeAcrossPages()
-{
-    QVERIFY(!m_catalogues.empty());
-    QStringList problems;
-    for (const auto& [code, c] : m_catalogues) {
-        const auto tr = [&c = c](const char* key) { return c.at(QString::fromUtf8(key)); };
-        // The same memory load on the Information and the Notification page.
-        if (tr("Information_View/Load") != tr("Noti_View/Loading"))
-            problems << code + ": load is " + tr("Information_View/Load") + " and " +
-                            tr("Noti_View/Loading");
-        // The menu names the page its title names.
-        if (!tr("Noti_View/Setting Notification")
-                 .contains(tr("Main_View/Notification"), Qt::CaseInsensitive))
-            problems << code + ": menu " + tr("Main_View/Notification") + ", page " +
-                            tr("Noti_View/Setting Notification");
-        if (tr("Widget_LocationPolicy/Location_Warning_Title") !=
-            tr("Widget_LocationPolicy/NORVALEX Privacy Policy"))
-            problems << code + ": two names for the privacy policy";
-        // Every light mode and every speed has a name of its own.
-        QSet<QString> names;
-        int count = 0;
-        for (const auto& entry : c) {
-            if (entry.first.startsWith(QLatin1String("Lighting_View/")) &&
-                entry.first.count(QLatin1Char('/')) == 1) {
-                names.insert(entry.second.toCaseFolded());
-                ++count;
-            }
-        }
-        if (names.size() != count)
-            problems << code + ": two Lighting captions read the same";
-    }
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
-}
-
-void tst_Translations::everyPageSwitchesLanguageCompletely()
-{
-    QVERIFY(!m_catalogues.empty());
-    extendedFeatures = isNewMode = true;
-    Main_View frame;
-    frame.show();
-    const std::pair<void (Main_View::*)(), const char*> pages[] = {
-        {&Main_View::slot_show_Lighting, "Lighting"},
-        {&Main_View::slot_show_Noti, "Notification"},
-        {&Main_View::slot_show_Setting, "Settings"},
-        {&Main_View::slot_show_Info, "Information"}};
-    for (const auto& page : pages)
-        (frame.*page.first)();
-    Widget_LocationPolicy consent;
-    QStringList problems;
-
-    for (int index = 0; index < Languages::kCount; ++index) {
-        const QString code = Languages::codeForIndex(index);
-        QTranslator translator;
-        QVERIFY(translator.load(Languages::fileForIndex(index)));
-        QCoreApplication::installTranslator(&translator);
-        currentLanguage = index;
-        frame.updateLanguage_MainView();
-        frame.setting_View->setSettingData(SettingData{index, true, true, false, 0});
-        frame.information_View->setHWData(sampleData());
-        consent.retranslate();
-
-        QStringList texts = visibleTexts(&consent);
-        for (const auto& page : pages) {
-            (frame.*page.first)();
-            texts << visibleTexts(&frame);
-        }
-        for (const QString& text : qAsConst(texts)) {
-            for (const auto& [key, translation] : m_catalogues[code]) {
-                const QString source = key.mid(key.indexOf('/') + 1);
-                // A key shown as it stands although this language says otherwise; captions
-                // ending in ':' are followed by a value.
-                const bool keyShown =
-                    text == source || (source.endsWith(':') && text.startsWith(source) &&
-                                       !translation.startsWith(source));
-                if (keyShown && translation != source)
-                    problems << code + ": \"" + text + "\" (" + key + ") left untranslated";
-            }
-        }
-        QCoreApplication::removeTranslator(&translator);
-    }
-    problems.removeDuplicates();
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
-}
 
 QTEST_MAIN(tst_Translations)
 #include "tst_translations.moc"
