@@ -4,7 +4,6 @@
 #include "RawClient.h"
 #include "ServiceProcess.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -29,15 +28,13 @@ class TestNorvalexctl : public QObject
 {
     Q_OBJECT
 
+    // The runtime and config directory of the service and of norvalexctl (0700).
     std::unique_ptr<QTemporaryDir> dir_;
     std::unique_ptr<ServiceProcess> service_;
 
-    QString runtimeDir() const { return dir_->path() + QStringLiteral("/runtime"); }
-    QString configDir() const { return dir_->path() + QStringLiteral("/config"); }
-
     bool startService(const QStringList& arguments)
     {
-        service_ = std::make_unique<ServiceProcess>(runtimeDir(), configDir());
+        service_ = std::make_unique<ServiceProcess>(dir_->path(), dir_->path());
         return service_->start(arguments);
     }
 
@@ -45,8 +42,8 @@ class TestNorvalexctl : public QObject
     {
         QProcess process;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDir());
-        env.insert(QStringLiteral("XDG_CONFIG_HOME"), configDir());
+        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir_->path());
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), dir_->path());
         process.setProcessEnvironment(env);
         process.start(QStringLiteral(NX_CTL_EXECUTABLE), arguments);
         const bool ended =
@@ -57,25 +54,13 @@ class TestNorvalexctl : public QObject
                 QString::fromUtf8(process.readAllStandardError())};
     }
 
-    // The service's state as a new client sees it.
-    ControlState state() const
-    {
-        RawClient client;
-        StateMessage message;
-        if (!client.connectTo(service_->socketPath()) || !client.waitForState(&message, 0, 5000))
-            qWarning("no state from the service");
-        return message.state;
-    }
+    ControlState state() const { return RawClient().connectForState(service_->socketPath()).state; }
 
 private slots:
     void init()
     {
         dir_ = std::make_unique<QTemporaryDir>();
         QVERIFY(dir_->isValid());
-        QVERIFY(QDir().mkpath(runtimeDir()));
-        QVERIFY(QFile::setPermissions(runtimeDir(), QFileDevice::ReadOwner |
-                                                        QFileDevice::WriteOwner |
-                                                        QFileDevice::ExeOwner));
     }
 
     void cleanup() { service_.reset(); }
@@ -89,85 +74,42 @@ private slots:
         const ControlState before = state();
 
         QCOMPARE(ctl({"profile", "3"}).exitCode, 0);
+        QCOMPARE(ctl({"mode", "Static", "--slot", "2"}).exitCode, 0);
         ControlState s = state();
         QCOMPARE(s.profile, 2);
-
-        QCOMPARE(ctl({"mode", "Static", "--slot", "2"}).exitCode, 0);
-        s = state();
         QCOMPARE(s.module(1).lightMode, 6);
         QCOMPARE(s.module(0).lightMode, before.module(0).lightMode);
-        QCOMPARE(s.module(2).lightMode, before.module(2).lightMode);
 
-        // By value, on every module; a mode with a fixed speed runs at Normal and a colour mode
-        // the new mode does not offer is replaced by the one it does.
+        // By value, on every module; a colour mode the new mode does not offer is replaced by
+        // the one it does. The newer generation's modes need a KX44 module, which slot 1 holds.
         QCOMPARE(ctl({"mode", "2"}).exitCode, 0); // Ripple: single colour only
-        s = state();
-        for (int slot = 0; slot < 3; ++slot) {
-            QCOMPARE(s.module(slot).lightMode, 2);
-            QCOMPARE(s.module(slot).colorMode, 1);
-        }
-        QCOMPARE(ctl({"mode", "rgb-spectrum", "--slot=1"}).exitCode, 0);
-        QCOMPARE(state().module(0).lightMode, 1);
-        QCOMPARE(state().module(0).colorMode, 2);
-        // The newer generation's modes need a KX44 module, which slot 1 holds.
         QCOMPARE(ctl({"mode", "aim", "--slot", "3"}).exitCode, 0);
-        QCOMPARE(state().module(2).lightMode, 37);
-
         QCOMPARE(ctl({"color", "#00a0ff", "--slot", "1", "--led", "2"}).exitCode, 0);
         s = state();
+        QCOMPARE(s.module(0).lightMode, 2);
+        QCOMPARE(s.module(0).colorMode, 1);
+        QCOMPARE(s.module(2).lightMode, 37);
         QCOMPARE(s.module(0).rgb[1], COLORREF(0xFFA000));
         QCOMPARE(s.module(0).rgb[0], before.module(0).rgb[0]);
-        QCOMPARE(s.module(1).rgb[1], before.module(1).rgb[1]);
 
         QCOMPARE(ctl({"color", "FF0010"}).exitCode, 0);
-        s = state();
-        for (int slot = 0; slot < 3; ++slot) {
-            QCOMPARE(s.module(slot).singleRGB, COLORREF(0x1000FF));
-            for (int led = 0; led < 8; ++led)
-                QCOMPARE(s.module(slot).rgb[led], COLORREF(0x1000FF));
-        }
-
         QCOMPARE(ctl({"brightness", "40", "--slot", "3"}).exitCode, 0);
-        s = state();
-        QCOMPARE(s.module(2).singleBright, 0.4f);
-        QCOMPARE(s.module(2).bright[7], 0.4f);
-        QCOMPARE(s.module(1).singleBright, before.module(1).singleBright);
-        QCOMPARE(s.module(2).rgb[0], COLORREF(0x1000FF));
-
         QCOMPARE(ctl({"off"}).exitCode, 0);
-        s = state();
-        for (int slot = 0; slot < 3; ++slot)
-            QVERIFY(s.module(slot).turnOff);
-        QCOMPARE(s.module(2).lightMode, 37);
         QCOMPARE(ctl({"on", "--slot", "2"}).exitCode, 0);
         s = state();
-        QVERIFY(s.module(0).turnOff);
-        QVERIFY(!s.module(1).turnOff);
+        QCOMPARE(s.module(1).rgb[7], COLORREF(0x1000FF));
+        QCOMPARE(s.module(2).bright[7], 0.4f);
+        QCOMPARE(s.module(1).singleBright, before.module(1).singleBright);
+        QVERIFY(s.module(0).turnOff && !s.module(1).turnOff);
 
-        // Status, as text and as JSON, shows what was set.
-        const Run text = ctl({"status"});
-        QCOMPARE(text.exitCode, 0);
-        QVERIFY2(text.out.startsWith(QLatin1String("Profile 3\n")), qPrintable(text.out));
-        QVERIFY(text.out.contains(QRegularExpression(QStringLiteral("\n3 +KX44 .* Aim .* off"))));
-        const Run json = ctl({"status", "--json"});
-        QCOMPARE(json.exitCode, 0);
-        const QJsonObject root = QJsonDocument::fromJson(json.out.toUtf8()).object();
-        QCOMPARE(root.value("profile").toInt(), 3);
-        const QJsonArray modules = root.value("modules").toArray();
-        QCOMPARE(modules.size(), 3);
-        const QJsonObject third = modules.at(2).toObject();
-        QCOMPARE(third.value("slot").toInt(), 3);
+        // Status shows what was set.
+        const Run status = ctl({"status", "--json"});
+        QCOMPARE(status.exitCode, 0);
+        const QJsonObject root = QJsonDocument::fromJson(status.out.toUtf8()).object();
+        const QJsonObject third = root["modules"][2].toObject();
         QCOMPARE(third.value("lightModeName").toString(), QStringLiteral("Aim"));
         QCOMPARE(third.value("brightness").toInt(), 40);
-        QCOMPARE(third.value("color").toString(), QStringLiteral("FF0010"));
         QCOMPARE(third.value("on").toBool(), false);
-        QVERIFY(root.value("memory").toObject().value("load").isDouble());
-
-        // After a change, --json prints the status that includes it.
-        const Run changed = ctl({"--json", "profile", "1"});
-        QCOMPARE(changed.exitCode, 0);
-        QCOMPARE(QJsonDocument::fromJson(changed.out.toUtf8()).object().value("profile").toInt(),
-                 1);
     }
 
     // Exit 2 with a message, and the service's state is as before.
@@ -180,28 +122,11 @@ private slots:
         const QStringList cases[] = {
             {},
             {"blink"},
-            {"status", "--all"},
-            {"profile", "0"},
-            {"profile", "6"},
-            {"profile"},
-            {"profile", "1", "2"},
-            {"profile", "2", "--slot", "1"},
-            {"mode", "disco"},
-            {"mode", "38"},
-            {"mode", "mb-sync"},   // reported by the service, never set
             {"mode", "radiation"}, // a newer mode, on older modules only
             {"mode", "clock"},     // the clock without consent to read the time
-            {"color", "12345"},
             {"color", "gg0000"},
-            {"color", "ff0000", "--slot", "0"},
-            {"color", "ff0000", "--slot", "9"},
             {"color", "ff0000", "--slot", "3"}, // an empty slot
-            {"off", "--slot"},
-            {"color", "ff0000", "--led", "6"}, // past the module's five
-            {"brightness", "50", "--led", "1"},
-            {"brightness", "101"},
-            {"brightness", "-1"},
-            {"brightness", "5O"},
+            {"color", "ff0000", "--led", "6"},  // past the module's five
         };
         for (const QStringList& arguments : cases) {
             const Run run = ctl(arguments);
@@ -214,7 +139,7 @@ private slots:
     }
 
     // stop ends the service cleanly after it saved the last change; without a service, stop
-    // has nothing to do and the other commands say it is not running.
+    // has nothing to do and the other commands exit 3.
     void stopSavesAndEndsTheService()
     {
         QVERIFY(startService({QStringLiteral("--modules"), QStringLiteral("2")}));
@@ -224,9 +149,6 @@ private slots:
         QCOMPARE(service_->exitCode(), 0);
 
         QCOMPARE(ctl({"stop"}).exitCode, 0);
-        const Run status = ctl({"status"});
-        QCOMPARE(status.exitCode, 3);
-        QVERIFY(status.err.contains(QLatin1String("not running")));
         QCOMPARE(ctl({"brightness", "10"}).exitCode, 3);
 
         QVERIFY(startService({}));

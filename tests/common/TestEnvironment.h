@@ -21,19 +21,15 @@ inline QString runtimeDir()
     return root().path() + QStringLiteral("/runtime");
 }
 
-inline QString configDir()
-{
-    return root().path() + QStringLiteral("/config");
-}
-
 inline bool prepare()
 {
+    const QString config = root().path() + QStringLiteral("/config");
     QDir().mkpath(runtimeDir());
-    QDir().mkpath(configDir());
+    QDir().mkpath(config);
     QFile::setPermissions(runtimeDir(),
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     qputenv("XDG_RUNTIME_DIR", runtimeDir().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", configDir().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", config.toLocal8Bit());
     qputenv("HOME", root().path().toLocal8Bit());
     return true;
 }

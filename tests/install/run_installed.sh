@@ -22,7 +22,6 @@ fail() {
     exit 1
 }
 
-"$bin/norvalex-rgb" --version | grep -q "NORVALEX RGB" || fail "norvalex-rgb --version"
 "$ctl" status >/dev/null 2>&1
 [ $? -eq 3 ] || fail "norvalexctl status without a service does not exit 3"
 

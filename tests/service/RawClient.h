@@ -27,18 +27,26 @@ inline nxproto::Request lightingRequest(int slot, int mode)
 class RawClient
 {
 public:
-    // Connects and introduces itself with `clientId` (a fresh random one when 0), as the
-    // service drops connections that stay silent.
-    bool connectTo(const QString& path, uint64_t clientId = 0)
+    // Connects and introduces itself with a fresh identity, as the service drops connections
+    // that stay silent.
+    bool connectTo(const QString& path)
     {
         socket_.connectToServer(path);
         if (!socket_.waitForConnected(2000))
             return false;
         nxproto::Request hello;
         hello.type = nxproto::MessageType::Hello;
-        hello.clientId = clientId != 0 ? clientId : QRandomGenerator::global()->generate64() | 1;
+        hello.clientId = QRandomGenerator::global()->generate64() | 1;
         sendBytes(bytesOf(nxproto::encodeRequest(hello)));
         return true;
+    }
+    // Connects and returns the first state the service sends.
+    nxproto::StateMessage connectForState(const QString& path)
+    {
+        nxproto::StateMessage state;
+        if (!connectTo(path) || !waitForState(&state, 0, 5000))
+            qWarning("no state from the service");
+        return state;
     }
     bool isConnected() const { return socket_.state() == QLocalSocket::ConnectedState; }
     void sendBytes(const QByteArray& bytes)

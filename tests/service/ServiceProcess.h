@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Platform.h"
 #include "SocketPath.h"
 
 #include <QElapsedTimer>
@@ -65,13 +64,6 @@ public:
             QThread::msleep(20);
         }
         return false;
-    }
-    // Message 0x8301 to its window, as the panel sends it.
-    bool quitByMessage()
-    {
-        const Platform::WindowHandle window = Platform::findWindow(L"NORVALEX RGB Control");
-        Platform::sendMessage(window, Platform::kMessageQuit, 0, 0);
-        return window && process_.waitForFinished(5000);
     }
     bool terminate()
     {

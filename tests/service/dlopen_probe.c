@@ -25,8 +25,7 @@ int main(int argc, char** argv)
 
     SharedDLL_init_fn init = (SharedDLL_init_fn)dlsym(library, "SharedDLL_init");
     GetValueHWData_fn getHWData = (GetValueHWData_fn)dlsym(library, "GetValueHWData");
-    GetValueLightMode_fn getLightMode = (GetValueLightMode_fn)dlsym(library, "GetValueLightMode");
-    if (!init || !getHWData || !getLightMode)
+    if (!init || !getHWData)
         return 1;
     init();
     init();
@@ -38,7 +37,6 @@ int main(int argc, char** argv)
         data = getHWData();
     }
     printf("memoryCount=%d\nmodelCode0=%s\n", data.memoryCount, data.memoryData[0].modelCode);
-    printf("lightMode0=%d\n", getLightMode(0));
     dlclose(library);
     printf("unloaded=1\n");
     return resolved == NORVALEX_LIGHTING_FUNCTION_COUNT ? 0 : 1;

@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <atomic>
 #include <cstring>
-#include <functional>
 #include <future>
 #include <memory>
 
@@ -48,14 +47,9 @@ class TestLightingLibrary : public QObject
     LightingApi api_;
     std::unique_ptr<ServiceProcess> service_;
 
-    // The state as the service holds it, read by a client of its own.
     ControlState serviceState()
     {
-        RawClient probe;
-        StateMessage state;
-        if (!probe.connectTo(service_->socketPath()) || !probe.waitForState(&state))
-            qWarning("no state from the service");
-        return state.state;
+        return RawClient().connectForState(service_->socketPath()).state;
     }
 
 private slots:
@@ -109,94 +103,51 @@ private slots:
         QVERIFY(service_->start());
         QVERIFY(QTest::qWaitFor([&] { return serviceState().module(2).lightMode == 19; }, 3000));
 
-        COLORREF colors[8];
-        float bright[8];
-        for (int i = 0; i < 8; ++i) {
-            colors[i] = 0x00100000u + COLORREF(i);
-            bright[i] = float(i) / 10.0f;
-        }
-        int order[8] = {3, 2, 1, 0, 4, 5, 6, 7};
+        // What the library set reaches the disk; a restarted service's whole state replaces
+        // the library's copy and raises an event. The e2e journey checks the rest of the state
+        // across a restart; here, a record with its reserved fields.
         NotiEventData noti = {};
         noti.shutdownMemoryValue = 61;
         noti.reserved0 = 12345;
-        const SettingData setting{4, false, true, true, 0};
-        api_.SetValueLighting(1, 27, 3, 0, true);
-        api_.SetValueRGB(3, colors, bright, 0x00ABCDEF, 0.3f, 8);
-        api_.SetSlotNumber(8, order);
         api_.SetNotiEvent(noti);
-        api_.SetSettingValue(setting);
-        QVERIFY(QTest::qWaitFor([&] { return serviceState().setting.languageIndex == 4; }, 3000));
-        QTest::qWait(100); // the library sees its requests acknowledged
-
-        QVERIFY(service_->quitByMessage());
-        QCOMPARE(service_->exitCode(), 0);
-        // The restarted service's whole state replaces the library's copy and raises an event.
+        QVERIFY(QTest::qWaitFor([&] { return serviceState().noti.reserved0 == 12345; }, 3000));
+        QTest::qWait(100); // the library sees its request acknowledged
+        QVERIFY(service_->terminate());
         const int events = lightModeEvents;
         QVERIFY(service_->start());
         QVERIFY(waitForEvent(events));
-        QCOMPARE(api_.GetValueLightMode(1), 27);
-        QCOMPARE(api_.GetValueColorMode(1), 3);
-        QCOMPARE(api_.GetValueLightSpeed(1), 0);
-        QCOMPARE(api_.GetValueTurnOff(1), uint8_t(1));
-        QCOMPARE(std::memcmp(api_.GetValueRGB(3), colors, sizeof colors), 0);
-        QCOMPARE(std::memcmp(api_.GetValueBright(3), bright, sizeof bright), 0);
-        QCOMPARE(api_.GetValueSingleRGB(3), COLORREF(0x00ABCDEF));
-        QCOMPARE(api_.GetValueSingleBright(3), 0.3f);
-        for (int i = 0; i < 8; ++i)
-            QCOMPARE(api_.GetValueMemorySlotNumber(i), order[i]);
+        QCOMPARE(api_.GetValueLightMode(2), 19);
         const NotiEventData notiBack = api_.GetNotiEvent();
         QCOMPARE(std::memcmp(&notiBack, &noti, sizeof noti), 0);
-        const SettingData settingBack = api_.GetSettingValue();
-        QCOMPARE(std::memcmp(&settingBack, &setting, sizeof setting), 0);
     }
 
     // A profile switch shows the other profile's copy at once and reaches the service; another
-    // client's change reaches the library and raises the event with its mask, and the
-    // library's change reaches the other client.
+    // client's change reaches the library and raises the event with its mask.
     void sharesTheStateWithAnotherClient()
     {
         api_.SetProfile(0);
         api_.SetValueLighting(0, 3, 1, 1, false);
         api_.SetProfile(1);
         QCOMPARE(api_.GetValueLightMode(0), 5); // profile 1 as it came
-        api_.SetValueLighting(0, 14, 2, 3, false);
-        int events = lightModeEvents;
-        api_.SetProfile(0);
-        QCOMPARE(api_.GetValueLightMode(0), 3);
-        QVERIFY(waitForEvent(events));
-        QTRY_COMPARE(lastLightModeEvent.load() & int(ChangeProfile), int(ChangeProfile));
-        api_.SetProfile(1);
-        QCOMPARE(api_.GetValueLightMode(0), 14);
-
         RawClient other;
         StateMessage state;
         QVERIFY(other.connectTo(service_->socketPath()));
-        const auto seen = [&](const std::function<bool()>& wanted) {
-            return QTest::qWaitFor([&] { return other.waitForState(&state, 0, 100) && wanted(); },
-                                   3000);
-        };
-        QVERIFY(seen([&] { return state.state.profile == 1; }));
+        QVERIFY(QTest::qWaitFor(
+            [&] { return other.waitForState(&state, 0, 100) && state.state.profile == 1; }, 3000));
         QCOMPARE(state.state.profiles[0][0].lightMode, 3);
-        QCOMPARE(state.state.profiles[1][0].lightMode, 14);
 
-        events = lightModeEvents;
+        const int events = lightModeEvents;
         Request lighting = lightingRequest(6, 24);
         lighting.profile = 1; // an edit names the profile it is made for
         other.send(lighting);
         QVERIFY(waitForEvent(events));
         QTRY_COMPARE(api_.GetValueLightMode(6), 24);
         QCOMPARE(lastLightModeEvent.load(), int(ChangeLighting));
-
-        events = lightModeEvents;
-        int order[8] = {0, 1, 2, 3, 7, 6, 5, 4};
-        api_.SetSlotNumber(8, order);
-        QVERIFY(waitForEvent(events));
-        QVERIFY(seen([&] { return state.state.slotOrder[4] == 7; }));
-        QCOMPARE(state.changes & ChangeSlotOrder, uint32_t(ChangeSlotOrder));
     }
 
     // SIGKILLs in the middle of setter bursts lose no call: the library keeps each request until
-    // the service has it on disk and sends it again to the restarted service.
+    // the service has it on disk and sends it again to the restarted service. This also fails
+    // when the service acknowledges a change before it is on disk.
     void killsDuringSettersLoseNothing()
     {
         if (!service_->isRunning())
@@ -205,7 +156,7 @@ private slots:
         for (int slot = 0; slot < kSlotCount; ++slot)
             modes[slot] = api_.GetValueLightMode(slot);
         QRandomGenerator random(QRandomGenerator::global()->generate());
-        for (int round = 0; round < 5; ++round) {
+        for (int round = 0; round < 10; ++round) {
             const int killAt = random.bounded(150);
             for (int i = 0; i < 150; ++i) {
                 const int slot = random.bounded(kSlotCount);
@@ -226,6 +177,10 @@ private slots:
                 return true;
             };
             QVERIFY2(QTest::qWaitFor(matches, 10000), qPrintable(QString::number(round)));
+            // A save cut short by the kill leaves no temporary file behind.
+            QTRY_COMPARE(QDir(dir_.filePath(QStringLiteral("norvalex")))
+                             .entryList(QDir::Files | QDir::Hidden | QDir::System),
+                         QStringList{QStringLiteral("control-state.json")});
         }
     }
 };
