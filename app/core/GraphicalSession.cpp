@@ -10,6 +10,7 @@ namespace GraphicalSession {
 namespace {
 
 QtMessageHandler previousHandler = nullptr;
+bool shmChosenHere = false;
 
 void connectingHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
@@ -65,12 +66,24 @@ bool isAvailable(const QStringList& arguments)
 void beginConnecting()
 {
     previousHandler = qInstallMessageHandler(connectingHandler);
+    // With X11 shared memory, Qt makes every repaint of pixels it has just sent wait for a round
+    // trip to the X server. The preview repaints the same bars 30 times a second, and each round
+    // trip hands over between Qt's X thread and the GUI thread twice; sending those few pixels
+    // over the socket costs less. Qt reads the switch once, while it connects; a choice of the
+    // user's stands.
+    shmChosenHere = !qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM");
+    if (shmChosenHere)
+        qputenv("QT_XCB_NO_MITSHM", "1");
 }
 
 void endConnecting()
 {
     qInstallMessageHandler(previousHandler);
     previousHandler = nullptr;
+    // Programs started from the panel decide for themselves.
+    if (shmChosenHere)
+        qunsetenv("QT_XCB_NO_MITSHM");
+    shmChosenHere = false;
 }
 
 } // namespace GraphicalSession

@@ -16,7 +16,8 @@ QByteArray missingMessage(const QByteArray& display);
 bool isAvailable(const QStringList& arguments);
 
 // Until endConnecting(), a failure of the window system to come up prints missingMessage() and
-// exits with status 1; other messages pass on unchanged.
+// exits with status 1; other messages pass on unchanged. The X11 connection made meanwhile sends
+// pixels over its socket, not through shared memory, unless QT_XCB_NO_MITSHM says otherwise.
 void beginConnecting();
 void endConnecting();
 

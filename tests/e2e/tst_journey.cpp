@@ -48,6 +48,23 @@ class tst_Journey : public QObject
         return pid > 0 && QFile::exists(QStringLiteral("/proc/%1").arg(pid)) ? pid : -1;
     }
 
+    // How often Qt's X thread in the panel went to sleep and was woken so far.
+    qint64 xThreadWakeUps() const
+    {
+        const QString tasks = QStringLiteral("/proc/%1/task").arg(m_panel.processId());
+        for (const QString& task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            QFile comm(tasks + '/' + task + "/comm");
+            if (!comm.open(QIODevice::ReadOnly) || comm.readAll().trimmed() != "QXcbEventQueue")
+                continue;
+            QFile status(tasks + '/' + task + "/status");
+            status.open(QIODevice::ReadOnly);
+            for (const QByteArray& line : status.readAll().split('\n'))
+                if (line.startsWith("voluntary_ctxt_switches:"))
+                    return line.mid(line.indexOf(':') + 1).trimmed().toLongLong();
+        }
+        return -1;
+    }
+
     // As a user starts it: the panel from the build, on the X display, in the clean home, under
     // an English desktop unless `extra` says otherwise.
     void startPanel(const QStringList& arguments = {}, const QProcessEnvironment& extra = {})
@@ -224,6 +241,13 @@ private slots:
     {
         click(m_layout->frame()->btn_Lighting);
         QTest::qWait(500);
+        // The preview's frames reach the screen without a round trip to the X server each: Qt's
+        // X thread sleeps through a second of them.
+        const qint64 woken = xThreadWakeUps();
+        QVERIFY(woken >= 0);
+        QTest::qWait(1000);
+        QVERIFY2(xThreadWakeUps() - woken < 10,
+                 qPrintable(QString::number(xThreadWakeUps() - woken)));
         // A band from above left of module 1's first LED to below right of module 2's last one.
         QVERIFY(m_x.drag(m_layout->ledRect(0, 0).topLeft() - QPoint(8, 8),
                          m_layout->ledRect(1, kLeds - 1).bottomRight() + QPoint(8, 8)));
