@@ -9,6 +9,7 @@
 #include "QXRGBMemory.h"
 
 #include <QApplication>
+#include <QScopeGuard>
 
 #include <cstdio>
 
@@ -67,6 +68,8 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     GraphicalSession::endConnecting();
     FramePictures::preload();
+    // Destroyed before the application: no decode outlives it, on any way out of main.
+    const auto settlePictures = qScopeGuard(&FramePictures::settle);
     // Lets the desktop match the window to its entry (Wayland app id, task bar icon).
     QGuiApplication::setDesktopFileName(QStringLiteral(NX_APP_ID));
     PanelMessageBox::install();

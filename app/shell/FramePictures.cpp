@@ -28,6 +28,13 @@ void FramePictures::preload()
         preloaded = std::async(std::launch::async, decodeBackground);
 }
 
+void FramePictures::settle()
+{
+    const std::lock_guard<std::mutex> lock(preloadMutex);
+    if (preloaded.valid())
+        preloaded.wait();
+}
+
 QPixmap FramePictures::background(const QSize& size)
 {
     QImage image;
