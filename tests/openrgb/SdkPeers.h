@@ -4,6 +4,7 @@
 
 #include "OrgbPacket.h"
 #include "PacketSplitter.h"
+#include "ReadUntil.h"
 
 #include <QElapsedTimer>
 #include <QTcpServer>
@@ -118,23 +119,9 @@ public:
     // The next packet of that id, dropping others; false on timeout or disconnection.
     bool waitFor(uint32_t id, orgb::Packet* packet, int timeoutMs = 5000)
     {
-        QElapsedTimer clock;
-        clock.start();
-        for (auto status = splitter_.next(*packet); status != orgb::PacketSplitter::Status::Error;
-             status = splitter_.next(*packet)) {
-            if (status == orgb::PacketSplitter::Status::Packet) {
-                if (packet->id == id)
-                    return true;
-                continue;
-            }
-            const qint64 left = timeoutMs - clock.elapsed();
-            if (left <= 0 || (!socket_.bytesAvailable() && !socket_.waitForReadyRead(int(left))))
-                return false;
-            const QByteArray bytes = socket_.readAll();
-            splitter_.feed(reinterpret_cast<const uint8_t*>(bytes.constData()),
-                           std::size_t(bytes.size()));
-        }
-        return false;
+        return readUntil(
+            socket_, splitter_, packet, orgb::PacketSplitter::Status::Packet,
+            [id](const orgb::Packet& p) { return p.id == id; }, timeoutMs);
     }
     // True when the peer closed the connection within five seconds.
     bool waitForClose()

@@ -2,6 +2,7 @@
 
 #include "FrameDecoder.h"
 #include "Messages.h"
+#include "ReadUntil.h"
 
 #include <QByteArray>
 #include <QElapsedTimer>
@@ -66,23 +67,9 @@ public:
     // broken framing.
     bool waitFor(nxproto::MessageType type, nxproto::Frame* frame, int timeoutMs = 2000)
     {
-        using Status = nxproto::FrameDecoder::Status;
-        QElapsedTimer clock;
-        clock.start();
-        for (Status status; (status = decoder_.next(*frame)) != Status::Error;) {
-            if (status == Status::Frame) {
-                if (frame->type == uint16_t(type))
-                    return true;
-                continue;
-            }
-            const qint64 left = timeoutMs - clock.elapsed();
-            if (left <= 0 || (!socket_.bytesAvailable() && !socket_.waitForReadyRead(int(left))))
-                return false;
-            const QByteArray bytes = socket_.readAll();
-            decoder_.feed(reinterpret_cast<const uint8_t*>(bytes.constData()),
-                          std::size_t(bytes.size()));
-        }
-        return false;
+        return readUntil(
+            socket_, decoder_, frame, nxproto::FrameDecoder::Status::Frame,
+            [type](const nxproto::Frame& f) { return f.type == uint16_t(type); }, timeoutMs);
     }
     // Waits for a state that acknowledges at least `ackSeq`.
     bool waitForState(nxproto::StateMessage* state, uint32_t ackSeq = 0, int timeoutMs = 2000)
