@@ -3,9 +3,9 @@
 // The operating-system services the panel and the control service need: named mutexes, finding
 // another process's window by title and sending it a message, launching the control service,
 // message boxes. Wide strings in, plain values out, no Qt types: the Win32 implementation
-// (platform_win.cpp) is compiled stand-alone; the POSIX one (platform_posix.cpp) uses
-// QLockFile, QLocalServer/QLocalSocket and QProcess behind the same functions and needs only
-// QtCore and QtNetwork, so that the headless control service can use it too.
+// (platform_win.cpp) is compiled stand-alone; the POSIX one (platform_posix.cpp) uses QLockFile,
+// local sockets and posix_spawn behind the same functions and needs only QtCore, so that the
+// headless control service can use it too.
 
 #include <cstdint>
 #include <string>
@@ -64,5 +64,11 @@ using MessageBoxHook = void (*)(const std::wstring& text, const std::wstring& ca
                                 MessageIcon icon);
 void messageBox(const std::wstring& text, const std::wstring& caption, MessageIcon icon);
 void setMessageBoxHook(MessageBoxHook hook);
+
+// Loads the desktop's font configuration on a thread of its own, so that the first text the GUI
+// lays out does not parse it on the GUI thread. finishFontWarmUp() waits for that thread and must
+// run before the process ends; both may be called more than once. Nothing to do on Win32.
+void beginFontWarmUp();
+void finishFontWarmUp();
 
 } // namespace Platform

@@ -103,6 +103,10 @@ void setMessageBoxHook(MessageBoxHook hook)
     messageBoxHook = hook;
 }
 
+void beginFontWarmUp() {}
+
+void finishFontWarmUp() {}
+
 static_assert(sizeof(SHELLEXECUTEINFOW) == 112, "SHELLEXECUTEINFOW on 64-bit Windows");
 
 } // namespace Platform
