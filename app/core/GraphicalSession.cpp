@@ -1,6 +1,9 @@
 #include "GraphicalSession.h"
 
+#include <QDBusConnection>
 #include <QtGlobal>
+
+#include <thread>
 
 #include <cstdio>
 #include <cstdlib>
@@ -11,6 +14,7 @@ namespace {
 
 QtMessageHandler previousHandler = nullptr;
 bool shmChosenHere = false;
+std::thread busWarmUp;
 
 void connectingHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
@@ -84,6 +88,20 @@ void endConnecting()
     if (shmChosenHere)
         qunsetenv("QT_XCB_NO_MITSHM");
     shmChosenHere = false;
+}
+
+void beginBusWarmUp()
+{
+#if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
+    if (!busWarmUp.joinable())
+        busWarmUp = std::thread([]() { QDBusConnection::sessionBus(); });
+#endif
+}
+
+void finishBusWarmUp()
+{
+    if (busWarmUp.joinable())
+        busWarmUp.join();
 }
 
 } // namespace GraphicalSession

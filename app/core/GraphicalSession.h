@@ -21,4 +21,11 @@ bool isAvailable(const QStringList& arguments);
 void beginConnecting();
 void endConnecting();
 
+// Connects to the session bus on a thread of its own while the window is built: the desktop's
+// accessibility bridge needs that connection with the first text the GUI sets, and would
+// otherwise wait for it on the GUI thread. finishBusWarmUp() waits for the thread and must run
+// before the application object goes.
+void beginBusWarmUp();
+void finishBusWarmUp();
+
 } // namespace GraphicalSession

@@ -60,6 +60,9 @@ int main(int argc, char* argv[])
         return 1;
     }
 
+    // Overlaps the font configuration's loading with the application's construction.
+    Platform::beginFontWarmUp();
+    const auto settleFonts = qScopeGuard(&Platform::finishFontWarmUp);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     // Every widget paints with the raster engine; without this the X11 layer loads the whole
     // OpenGL stack for the first window (about 50 MB) although nothing draws with it.
@@ -67,6 +70,8 @@ int main(int argc, char* argv[])
     GraphicalSession::beginConnecting();
     QApplication app(argc, argv);
     GraphicalSession::endConnecting();
+    GraphicalSession::beginBusWarmUp();
+    const auto settleBus = qScopeGuard(&GraphicalSession::finishBusWarmUp);
     FramePictures::preload();
     // Destroyed before the application: no decode outlives it, on any way out of main.
     const auto settlePictures = qScopeGuard(&FramePictures::settle);

@@ -12,6 +12,7 @@
 #include "Noti_View.h"
 #include "Platform.h"
 #include "Setting_View.h"
+#include "WindowIconAfterFirstFrame.h"
 
 #include <QButtonGroup>
 #include <QCloseEvent>
@@ -93,7 +94,7 @@ Main_View::Main_View(QWidget* parent) : QWidget(parent)
     Accessibility::install();
     setWindowTitle(QString::fromLatin1(kWindowTitle));
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
-    setWindowIcon(FramePictures::windowIcon());
+    WindowIconAfterFirstFrame::install(this);
     resize(kFrameWidth, kFrameHeight);
     setObjectName(QStringLiteral("Main_View"));
     setFocusPolicy(Qt::ClickFocus);

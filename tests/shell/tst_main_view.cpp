@@ -230,16 +230,29 @@ private slots:
                      QStringLiteral("Can not Find QX NORVALEX"));
     }
 
-    // The frame carries the application icon in the small sizes task bars use; X11 takes every
+    // The frame carries the application icon in the small sizes task bars use, from its first
+    // picture on, or from its show when it starts minimised and paints nothing; X11 takes every
     // size in one _NET_WM_ICON request of at most 65535 words.
     void windowIcon()
     {
-        const QList<QSize> sizes = frame->windowIcon().availableSizes();
-        QVERIFY(sizes.contains(QSize(16, 16)) && sizes.contains(QSize(32, 32)));
+        const auto iconSizes = [](QWidget* window) {
+            return window->windowIcon().availableSizes();
+        };
+        QVERIFY(iconSizes(frame.get()).isEmpty());
+        frame->show();
+        QVERIFY(QTest::qWaitForWindowExposed(frame.get()));
+        QTRY_VERIFY(iconSizes(frame.get()).contains(QSize(16, 16)));
+        const QList<QSize> sizes = iconSizes(frame.get());
+        QVERIFY(sizes.contains(QSize(32, 32)));
         int words = 0;
         for (const QSize& size : sizes)
             words += 2 + size.width() * size.height();
         QVERIFY2(words <= 65535, qPrintable(QString::number(words)));
+
+        Main_View minimised;
+        minimised.setWindowState(Qt::WindowMinimized);
+        minimised.show();
+        QTRY_VERIFY(iconSizes(&minimised).contains(QSize(16, 16)));
     }
 
     // On every page Tab runs menu, page, minimise, close and back to the menu, also for pages
