@@ -12,7 +12,7 @@ jobs="${NX_JOBS:-2}"
 
 packages=(
   cmake make g++ pkg-config
-  qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
+  qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libpng-dev
   libbenchmark-dev libpulse-dev
   fonts-liberation fonts-noto-cjk fonts-thai-tlwg
 )

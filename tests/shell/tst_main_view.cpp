@@ -230,11 +230,18 @@ private slots:
                      QStringLiteral("Can not Find QX NORVALEX"));
     }
 
+    // The background is the resource's picture pixel for pixel, as Qt's own reader decodes it.
     // The frame carries the application icon in the small sizes task bars use, from its first
     // picture on, or from its show when it starts minimised and paints nothing; X11 takes every
     // size in one _NET_WM_ICON request of at most 65535 words.
-    void windowIcon()
+    void framePictures()
     {
+        const QImage background = frame->palette().brush(QPalette::Window).texture().toImage();
+        const QImage resource = QImage(QStringLiteral(":/QXRGBMemory/Images/Main_BG.png"));
+        QCOMPARE(background.size(), QSize(1000, 600));
+        QVERIFY(background.convertToFormat(QImage::Format_RGB32) ==
+                resource.convertToFormat(QImage::Format_RGB32));
+
         const auto iconSizes = [](QWidget* window) {
             return window->windowIcon().availableSizes();
         };
