@@ -27,11 +27,15 @@ for tool in xdotool awk "$build/bench/nx_map_watch"; do
 done
 
 work=$(mktemp -d)
+# A desktop session's runtime directory is a tmpfs (/run/user/UID): lock files there cost no disk
+# flush. Without a tmpfs at /dev/shm, the runtime directories stay in the work directory.
+runtime_root=$work
+if [ -d /dev/shm ] && [ -w /dev/shm ]; then runtime_root=$(mktemp -d /dev/shm/nx-bench.XXXX); fi
 pids=()
 cleanup() {
   local pid
   for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-  rm -rf "$work"
+  rm -rf "$work" "$runtime_root"
 }
 trap cleanup EXIT
 
@@ -57,19 +61,20 @@ rss_mb() { awk '/^VmRSS:/ { printf "%.1f\n", $2 / 1024 }' /proc/"$1"/status; }
 
 median() { sort -g | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
 
-# A fresh home with private runtime and config directories.
+# A fresh home with a private config directory, and its runtime directory (runtime_of HOME).
 fresh_home() {
   local home
   home=$(mktemp -d "$work/home.XXXX")
-  mkdir -p "$home/config" "$home/runtime"
-  chmod 700 "$home/runtime"
+  mkdir -p "$home/config" "$(runtime_of "$home")"
+  chmod 700 "$(runtime_of "$home")"
   echo "$home"
 }
+runtime_of() { echo "$runtime_root/runtime.$(basename "$1")"; }
 
 # The service's pid, from the lock it holds in the runtime directory.
 service_pid() {
   local lock
-  for lock in "$1"/runtime/norvalex-mutex-NORVALEX_Control.exe.lock; do
+  for lock in "$(runtime_of "$1")"/norvalex-mutex-NORVALEX_Control.exe.lock; do
     [ -s "$lock" ] && head -n1 "$lock"
   done
 }
@@ -101,11 +106,12 @@ declare -A menu=([Information]=90 [Lighting]=142 [Notification]=194 [Settings]=2
 pages=(Information Lighting Notification Settings)
 
 panel_run() {
-  local home pid window service start
+  local home runtime pid window service start
   home=$(fresh_home)
+  runtime=$(runtime_of "$home")
   watch_map 'NORVALEX RGB'
   start=$(now_ms)
-  HOME=$home XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$home/runtime \
+  HOME=$home XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$runtime \
     QT_QPA_PLATFORM=xcb "$build/bin/norvalex-rgb" >"$home/panel.log" 2>&1 &
   pid=$!
   pids+=("$pid")
@@ -150,14 +156,14 @@ bare_run() {
 service_run() {
   local home service client
   home=$(fresh_home)
-  XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$home/runtime \
+  XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$(runtime_of "$home") \
     "$build/bin/norvalex-control" --modules 8 >"$home/service.log" 2>&1 &
   service=$!
   pids+=("$service")
-  wait_for 20 test -S "$home/runtime/norvalex-control.sock"
+  wait_for 20 test -S "$(runtime_of "$home")/norvalex-control.sock"
   sleep "$settle"
   echo "service_idle_pct $(cpu_percent "$service")"
-  XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$home/runtime \
+  XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$(runtime_of "$home") \
     "$build/bench/nx_preview_client" "$build/bin/libNORVALEX_Lighting.so" \
     $((seconds + 2 * settle)) >"$home/client.log" &
   client=$!
