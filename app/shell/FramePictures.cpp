@@ -1,6 +1,7 @@
 #include "FramePictures.h"
 
 #include <QImage>
+#include <QImageReader>
 #include <QResource>
 
 #include <future>
@@ -17,11 +18,13 @@ constexpr int kWindowIconSizes[] = {16, 24, 32, 48, 64, 128};
 std::mutex preloadMutex;
 std::future<QImage> preloaded;
 
-// Straight from the resource with libpng: Qt's image reader first reads through the image-format
-// plugins, which cost more than the decode itself.
+// Straight from the resource with libpng, which is quicker than Qt's image reader. That reader
+// still loads the frame's other pictures (its style sheets name them), and its first use reads the
+// metadata of every image-format plugin: the worker does that first, for the GUI thread.
 QImage decodeBackground()
 {
     const QString path = QString::fromLatin1(kBackgroundImage);
+    QImageReader(path).canRead();
     const QByteArray data = QResource(path).uncompressedData();
     png_image png{};
     png.version = PNG_IMAGE_VERSION;
