@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class Information_Slots_View;
 class QLabel;
 class QPainter;
@@ -51,5 +53,7 @@ private:
     QLabel* label_Percent = nullptr;
     QLabel* label_Frequency = nullptr;
     double memoryLoad = 0.0;
+    // The value arc's span on screen; none is there before the first full paint of the gauge.
+    std::optional<int> shownArcSpan;
     QWidget* gauge = nullptr;
 };

@@ -4,8 +4,11 @@
 #include "Information_View.h"
 
 #include <QLabel>
+#include <QPaintEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QStandardPaths>
+#include <QWindow>
 #include <QtTest>
 
 #include <cmath>
@@ -28,6 +31,7 @@ private slots:
     void labels_data();
     void labels();
     void slotButtons();
+    void refreshRepaintsOnlyTheGauge();
 
 private:
     QLabel* label(const char* name) const { return page->findChild<QLabel*>(name); }
@@ -107,6 +111,69 @@ void TestInformationView::slotButtons()
     QTest::mouseClick(slotButton(3), Qt::LeftButton);
     QVERIFY(slotButton(3)->isChecked() && !slotButton(1)->isChecked());
     QCOMPARE(label("label_Memory_Type")->text(), QStringLiteral("Type:DDR5"));
+}
+
+namespace {
+
+// The region of the page repainted since the last take().
+struct PaintedRegion : QObject {
+    QRegion region;
+    explicit PaintedRegion(QWidget* page) { page->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+    QRegion take()
+    {
+        QTest::qWait(30);
+        return std::exchange(region, QRegion());
+    }
+};
+
+} // namespace
+
+// The page paints only the gauge: a refresh repaints the gauge when its arc changes and nothing
+// of the page otherwise, and the screen then equals a full repaint.
+void TestInformationView::refreshRepaintsOnlyTheGauge()
+{
+    QVERIFY(QTest::qWaitForWindowExposed(page.get()));
+    HWData data{};
+    data.slotIndex[0] = 0;
+    data.memoryData[0].memoryModuleSize = 8192;
+    data.channel = 2;
+    data.memoryLoad = 40.0;
+    page->setHWData(data);
+    PaintedRegion painted(page.get());
+    painted.take();
+
+    // The same whole degrees of arc: only the figures' labels change.
+    data.memoryLoad = 40.1;
+    page->setHWData(data);
+    const QRect circle(450, 165, 240, 240);
+    // (QRegion::contains only tells whether a rectangle overlaps.)
+    const auto covers = [](const QRegion& region, const QRect& rect) {
+        return QRegion(rect).subtracted(region).isEmpty();
+    };
+    QVERIFY2(!covers(painted.take(), circle), "an unchanged gauge was repainted");
+
+    data.memoryLoad = 75.0;
+    page->setHWData(data);
+    const QRect repainted = painted.take().boundingRect();
+    const QRect gauge(430, 145, 280, 280);
+    QVERIFY2(gauge.contains(repainted) && covers(repainted, circle),
+             qPrintable(QStringLiteral("%1,%2 %3x%4")
+                            .arg(repainted.x())
+                            .arg(repainted.y())
+                            .arg(repainted.width())
+                            .arg(repainted.height())));
+    const QImage shown = page->windowHandle()
+                             ->screen()
+                             ->grabWindow(page->winId())
+                             .toImage()
+                             .convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(shown, page->grab().toImage().convertToFormat(QImage::Format_RGB32));
 }
 
 QTEST_MAIN(TestInformationView)
