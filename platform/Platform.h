@@ -65,10 +65,9 @@ using MessageBoxHook = void (*)(const std::wstring& text, const std::wstring& ca
 void messageBox(const std::wstring& text, const std::wstring& caption, MessageIcon icon);
 void setMessageBoxHook(MessageBoxHook hook);
 
-// Loads the desktop's font configuration on a thread of its own, so that the first text the GUI
-// lays out does not parse it on the GUI thread. finishFontWarmUp() waits for that thread and must
-// run before the process ends; both may be called more than once. Nothing to do on Win32.
-void beginFontWarmUp();
-void finishFontWarmUp();
+// Loads the desktop's font configuration (fontconfig's), which the first text the GUI lays out
+// would otherwise parse; the panel runs it on a thread of its own while Qt starts. Nothing to do
+// on Win32.
+void loadFontConfiguration();
 
 } // namespace Platform

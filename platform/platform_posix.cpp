@@ -53,7 +53,6 @@ QString fileSafe(const std::wstring& name)
 namespace {
 
 MessageBoxHook messageBoxHook = nullptr;
-std::thread fontWarmUp;
 
 QString mutexPath(const std::wstring& name)
 {
@@ -183,27 +182,17 @@ void setMessageBoxHook(MessageBoxHook hook)
     messageBoxHook = hook;
 }
 
-void beginFontWarmUp()
+void loadFontConfiguration()
 {
-    if (fontWarmUp.joinable())
+    // Fontconfig keeps one configuration per process, built on first use from its XML files and
+    // caches; the toolkit's font database finds it ready. The library stays loaded, since that
+    // database uses it for the rest of the process.
+    void* fontconfig = dlopen("libfontconfig.so.1", RTLD_LAZY | RTLD_LOCAL);
+    if (!fontconfig)
         return;
-    fontWarmUp = std::thread([]() {
-        // Fontconfig keeps one configuration per process, built on first use from its XML files
-        // and caches; the toolkit's font database finds it ready. The library stays loaded,
-        // since that database uses it for the rest of the process.
-        void* fontconfig = dlopen("libfontconfig.so.1", RTLD_LAZY | RTLD_LOCAL);
-        if (!fontconfig)
-            return;
-        using Init = int (*)();
-        if (const auto init = reinterpret_cast<Init>(dlsym(fontconfig, "FcInit")))
-            init();
-    });
-}
-
-void finishFontWarmUp()
-{
-    if (fontWarmUp.joinable())
-        fontWarmUp.join();
+    using Init = int (*)();
+    if (const auto init = reinterpret_cast<Init>(dlsym(fontconfig, "FcInit")))
+        init();
 }
 
 } // namespace Platform

@@ -103,9 +103,7 @@ void setMessageBoxHook(MessageBoxHook hook)
     messageBoxHook = hook;
 }
 
-void beginFontWarmUp() {}
-
-void finishFontWarmUp() {}
+void loadFontConfiguration() {}
 
 static_assert(sizeof(SHELLEXECUTEINFOW) == 112, "SHELLEXECUTEINFOW on 64-bit Windows");
 

@@ -3,8 +3,6 @@
 #include <QDBusConnection>
 #include <QtGlobal>
 
-#include <thread>
-
 #include <cstdio>
 #include <cstdlib>
 
@@ -14,7 +12,6 @@ namespace {
 
 QtMessageHandler previousHandler = nullptr;
 bool shmChosenHere = false;
-std::thread busWarmUp;
 
 void connectingHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
@@ -90,18 +87,11 @@ void endConnecting()
     shmChosenHere = false;
 }
 
-void beginBusWarmUp()
+void connectSessionBus()
 {
 #if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
-    if (!busWarmUp.joinable())
-        busWarmUp = std::thread([]() { QDBusConnection::sessionBus(); });
+    QDBusConnection::sessionBus();
 #endif
-}
-
-void finishBusWarmUp()
-{
-    if (busWarmUp.joinable())
-        busWarmUp.join();
 }
 
 } // namespace GraphicalSession

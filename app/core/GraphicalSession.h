@@ -21,11 +21,9 @@ bool isAvailable(const QStringList& arguments);
 void beginConnecting();
 void endConnecting();
 
-// Connects to the session bus on a thread of its own while the window is built: the desktop's
-// accessibility bridge needs that connection with the first text the GUI sets, and would
-// otherwise wait for it on the GUI thread. finishBusWarmUp() waits for the thread and must run
-// before the application object goes.
-void beginBusWarmUp();
-void finishBusWarmUp();
+// Connects to the session bus, which the desktop's accessibility bridge waits for with the first
+// text the GUI sets; the panel runs it on a thread of its own while the window is built. Nothing
+// to do on Windows and macOS.
+void connectSessionBus();
 
 } // namespace GraphicalSession

@@ -12,6 +12,7 @@
 #include <QScopeGuard>
 
 #include <cstdio>
+#include <thread>
 
 namespace {
 
@@ -60,9 +61,10 @@ int main(int argc, char* argv[])
         return 1;
     }
 
-    // Overlaps the font configuration's loading with the application's construction.
-    Platform::beginFontWarmUp();
-    const auto settleFonts = qScopeGuard(&Platform::finishFontWarmUp);
+    // Start-up work that would otherwise stall the GUI thread runs beside it; each thread is
+    // joined on every way out of main, the bus before the application object goes.
+    std::thread fontConfiguration(&Platform::loadFontConfiguration);
+    const auto joinFonts = qScopeGuard([&fontConfiguration]() { fontConfiguration.join(); });
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     // Every widget paints with the raster engine; without this the X11 layer loads the whole
     // OpenGL stack for the first window (about 50 MB) although nothing draws with it.
@@ -70,8 +72,8 @@ int main(int argc, char* argv[])
     GraphicalSession::beginConnecting();
     QApplication app(argc, argv);
     GraphicalSession::endConnecting();
-    GraphicalSession::beginBusWarmUp();
-    const auto settleBus = qScopeGuard(&GraphicalSession::finishBusWarmUp);
+    std::thread sessionBus(&GraphicalSession::connectSessionBus);
+    const auto joinBus = qScopeGuard([&sessionBus]() { sessionBus.join(); });
     FramePictures::preload();
     // Destroyed before the application: no decode outlives it, on any way out of main.
     const auto settlePictures = qScopeGuard(&FramePictures::settle);
