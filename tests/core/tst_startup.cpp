@@ -222,16 +222,18 @@ void tst_Startup::runningPanelQuitsOnMessage()
     // The panel holds its instance lock and answers under its controller's title.
     QTRY_VERIFY_WITH_TIMEOUT(Platform::findWindow(L"NORVALEX") != 0, 10000);
     QVERIFY(Platform::mutexExists(L"NORVALEX RGB.exe"));
+    // It starts the control service beside it once its event loop runs; waiting until the
+    // service listens keeps a service still starting from missing the quit message below.
+    QTRY_VERIFY_WITH_TIMEOUT(Platform::findWindow(L"NORVALEX RGB Control") != 0, 20000);
     Platform::sendMessage(Platform::findWindow(L"NORVALEX"), 0x8301, 1, 1);
     QVERIFY(panel.waitForFinished(10000));
     QCOMPARE(panel.exitCode(), 0);
     QVERIFY(!Platform::mutexExists(L"NORVALEX RGB.exe"));
 
-    // The panel started the control service beside it; it keeps running until told to quit.
-    if (Platform::mutexExists(L"NORVALEX Control.exe")) {
-        Platform::sendMessage(Platform::findWindow(L"NORVALEX RGB Control"), 0x8301, 1, 1);
-        QTRY_VERIFY_WITH_TIMEOUT(!Platform::mutexExists(L"NORVALEX Control.exe"), 10000);
-    }
+    // The service outlives the panel until told to quit.
+    QVERIFY(Platform::mutexExists(L"NORVALEX Control.exe"));
+    Platform::sendMessage(Platform::findWindow(L"NORVALEX RGB Control"), 0x8301, 1, 1);
+    QTRY_VERIFY_WITH_TIMEOUT(!Platform::mutexExists(L"NORVALEX Control.exe"), 10000);
 }
 
 // The control service starts from the given directory, in a session of its own, and is reaped
